@@ -1,0 +1,9 @@
+#include "alerts/bulletins.h"
+
+namespace skyloft {
+
+BulletinState Bulletins;
+
+void NWSAlerts() {}
+
+}  // namespace skyloft

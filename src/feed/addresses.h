@@ -1,0 +1,15 @@
+// The fixed addresses of the program. Everything else comes from the host table.
+#pragma once
+
+namespace skyloft {
+
+// Web host of the host table, and the path of the table there.
+inline constexpr const char* kWebHost = "www.skyloft.example";
+inline constexpr const char* kHostTablePath = "/skyloft/config/hosts.xml";
+// Written into pages; the display answers it with a sheet of its own.
+inline constexpr const char* kStyleSheet = "http://www.skyloft.example/skyloft/style.css";
+inline constexpr const char* kSupportMail = "mailto:support@skyloft.example";
+// The program's own version, as the host table tells versions.
+inline constexpr const char* kOwnVersion = "1.20.00";
+
+}  // namespace skyloft

@@ -1,0 +1,9 @@
+#include "feed/catalogues.h"
+
+namespace skyloft {
+
+void GetSectorData() {}
+void GetProductData() {}
+void GetAvailableCategories() {}
+
+}  // namespace skyloft

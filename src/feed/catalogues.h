@@ -1,0 +1,13 @@
+// The catalogues of map sectors and of products.
+#pragma once
+
+namespace skyloft {
+
+// Fetch the catalogues of the model run. Do nothing yet.
+void GetSectorData();
+void GetProductData();
+
+// Fills CategorySelection from the catalogue. Does nothing yet.
+void GetAvailableCategories();
+
+}  // namespace skyloft

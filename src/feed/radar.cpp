@@ -1,0 +1,7 @@
+#include "feed/radar.h"
+
+namespace skyloft {
+
+void GetNexradData(int) {}
+
+}  // namespace skyloft

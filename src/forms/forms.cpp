@@ -1,0 +1,37 @@
+#include "forms/forms.h"
+
+#include "forms/initializing_form.h"
+#include "forms/main_form.h"
+#include "forms/menu_form.h"
+#include "forms/setup_wizard_form.h"
+#include "forms/system_options_form.h"
+#include "forms/ticker_form.h"
+
+namespace skyloft {
+
+MainFormControls MainForm;
+InitializingFormControls InitializingForm;
+TickerFormControls TickerForm;
+SetupWizardFormControls SetupWizardForm;
+SystemOptionsFormControls SystemOptionsForm;
+MenuFormControls MenuForm;
+
+const std::vector<Form*>& AllForms() {
+  static const std::vector<Form*> forms = {&MainForm,        &InitializingForm,  &TickerForm,
+                                           &SetupWizardForm, &SystemOptionsForm, &MenuForm};
+  return forms;
+}
+
+Control* FindControl(std::string_view name) {
+  const size_t point = name.find('.');
+  for (Form* form : AllForms()) {
+    if (form->Name() != name.substr(0, point)) continue;
+    if (point == std::string_view::npos) return form;
+    for (Control* control : form->Controls()) {
+      if (control->Name() == name.substr(point + 1)) return control;
+    }
+  }
+  return nullptr;
+}
+
+}  // namespace skyloft

@@ -1,0 +1,24 @@
+// All forms of the program, and where their controls lie.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/controls.h"
+
+namespace skyloft {
+
+// Twips to a pixel, everywhere.
+inline constexpr int kTwipsPerPixel = 15;
+
+const std::vector<Form*>& AllForms();
+
+// The control by its outside name, "MainForm.Thumbnail", "MainForm.SysTray[1]", or a form by its own; nullptr when
+// there is none.
+Control* FindControl(std::string_view name);
+
+// Puts every form and control at its place of the skin.
+void ApplySkin();
+
+}  // namespace skyloft

@@ -1,0 +1,142 @@
+// The skin: where every control lies. Pixels in the form or, for the members of a frame, in the frame.
+#include "forms/forms.h"
+
+namespace skyloft {
+namespace {
+
+struct PlaceRow {
+  const char* control;
+  int left, top, width, height;
+};
+
+constexpr PlaceRow kSkin[] = {
+    // The main window. Left column, 150 wide.
+    {"MainForm", 0, 0, 800, 590},
+    {"MainForm.LocationLabel", 18, 48, 150, 20},
+    {"MainForm.WeatherConditionsBanner", 18, 70, 150, 236},
+    {"MainForm.Thumbnail", 18, 314, 150, 124},
+    {"MainForm.SevereWeatherLabel", 18, 444, 150, 15},
+    {"MainForm.TornadoButton", 18, 461, 46, 34},
+    {"MainForm.ThunderstormButton", 70, 461, 46, 34},
+    {"MainForm.FloodButton", 122, 461, 46, 34},
+    {"MainForm.PersonalLabel", 18, 498, 150, 15},
+    {"MainForm.PersonalAlertButton", 18, 514, 150, 28},
+    // Top.
+    {"MainForm.Sponsor1", 170, 10, 236, 26},
+    {"MainForm.TimeValue", 430, 14, 218, 18},
+    {"MainForm.HelpButton", 656, 10, 26, 26},
+    {"MainForm.MenuButton", 688, 10, 26, 26},
+    {"MainForm.ExitButton", 720, 10, 26, 26},
+    // The four lists.
+    {"MainForm.LocationSelection", 180, 58, 140, 22},
+    {"MainForm.CategorySelection", 324, 58, 140, 22},
+    {"MainForm.ProductSelection", 468, 58, 170, 22},
+    {"MainForm.TimeSelection", 642, 58, 142, 22},
+    {"MainForm.TimeLabel", 642, 42, 142, 15},
+    {"MainForm.Channel", 180, 86, 38, 18},
+    {"MainForm.ProductTitle", 226, 85, 390, 20},
+    {"MainForm.ProgressBar", 624, 90, 160, 10},
+    // The display.
+    {"MainForm.Display1", 180, 108, 604, 415},
+    {"MainForm.Display2", 180, 108, 604, 415},
+    {"MainForm.Legend", 180, 483, 604, 40},
+    // Player, view, zoom.
+    {"MainForm.BackButton", 180, 528, 34, 26},
+    {"MainForm.NextButton", 217, 528, 34, 26},
+    {"MainForm.PlayButton", 254, 528, 34, 26},
+    {"MainForm.StopButton", 291, 528, 34, 26},
+    {"MainForm.LocalButton", 338, 528, 50, 26},
+    {"MainForm.NationalButton", 391, 528, 50, 26},
+    {"MainForm.AreaZoomButton", 454, 528, 34, 26},
+    {"MainForm.ZoomInButton", 491, 528, 34, 26},
+    {"MainForm.ZoomOutButton", 528, 528, 34, 26},
+    {"MainForm.ResetButton", 565, 528, 34, 26},
+    {"MainForm.LegendButton", 608, 528, 50, 26},
+    {"MainForm.Sponsor0", 664, 528, 120, 26},
+    // The foot.
+    {"MainForm.Sponsor2", 30, 560, 740, 15},
+
+    {"InitializingForm", 0, 0, 420, 200},
+    {"InitializingForm.SoftwareVersion", 24, 92, 372, 18},
+    {"InitializingForm.SoftwareStatus", 24, 118, 372, 18},
+    {"InitializingForm.ProgressBar", 24, 142, 372, 12},
+    {"InitializingForm.EmailLink", 24, 168, 372, 18},
+
+    {"TickerForm", 0, 0, 800, 35},
+    {"TickerForm.Sponsor4", 0, 0, 90, 35},
+    {"TickerForm.Ticker", 88, 0, 712, 35},
+
+    {"SetupWizardForm", 0, 0, 560, 420},
+    {"SetupWizardForm.SetupFrame", 12, 12, 536, 330},
+    {"SetupWizardForm.Heading", 20, 24, 496, 30},
+    {"SetupWizardForm.Introduction", 20, 70, 496, 110},
+    {"SetupWizardForm.ZipCodeOption", 20, 80, 160, 24},
+    {"SetupWizardForm.ZipCodeInput", 190, 80, 120, 24},
+    {"SetupWizardForm.CityStateOption", 20, 120, 160, 24},
+    {"SetupWizardForm.CityInput", 190, 120, 160, 24},
+    {"SetupWizardForm.StateInput", 370, 120, 80, 24},
+    {"SetupWizardForm.ZipCodeResult", 190, 90, 300, 20},
+    {"SetupWizardForm.CityStateResult", 190, 115, 300, 20},
+    {"SetupWizardForm.CountyResult", 190, 140, 300, 20},
+    {"SetupWizardForm.AreaCodeResult", 190, 165, 300, 20},
+    {"SetupWizardForm.TimeZoneResult", 190, 190, 300, 20},
+    {"SetupWizardForm.LatitudeResult", 190, 215, 300, 20},
+    {"SetupWizardForm.LongitudeResult", 190, 240, 300, 20},
+    {"SetupWizardForm.TitleResult", 20, 150, 300, 24},
+    {"SetupWizardForm.Status", 12, 352, 536, 20},
+    {"SetupWizardForm.CancelButton", 12, 380, 100, 30},
+    {"SetupWizardForm.NextButton", 448, 380, 100, 30},
+
+    {"SystemOptionsForm", 0, 0, 420, 380},
+    {"SystemOptionsForm.TabStripOptions", 10, 10, 400, 30},
+    {"SystemOptionsForm.OptionsFrame", 10, 42, 400, 240},
+    {"SystemOptionsForm.Email1Label", 20, 30, 360, 18},
+    {"SystemOptionsForm.Email1Value", 20, 50, 360, 24},
+    {"SystemOptionsForm.Email2Label", 20, 84, 360, 18},
+    {"SystemOptionsForm.Email2Value", 20, 104, 360, 24},
+    {"SystemOptionsForm.EmailOptionValue", 20, 144, 360, 22},
+    {"SystemOptionsForm.ShowTicker", 20, 26, 360, 22},
+    {"SystemOptionsForm.AlwaysOnTop", 20, 50, 360, 22},
+    {"SystemOptionsForm.TopScreenPosition", 20, 74, 360, 22},
+    {"SystemOptionsForm.BottomScreenPosition", 20, 98, 360, 22},
+    {"SystemOptionsForm.ShowCurrentConditions", 20, 130, 360, 22},
+    {"SystemOptionsForm.ShowHourlyForecast", 20, 154, 360, 22},
+    {"SystemOptionsForm.Show3DayForecast", 20, 178, 360, 22},
+    {"SystemOptionsForm.ShowAlmanac", 20, 202, 360, 22},
+    {"SystemOptionsForm.CurrentConditionsLabel", 20, 34, 220, 22},
+    {"SystemOptionsForm.CurrentConditionsIndexMax", 260, 34, 100, 24},
+    {"SystemOptionsForm.ForecastLabel", 20, 70, 220, 22},
+    {"SystemOptionsForm.ForecastIndexMax", 260, 70, 100, 24},
+    {"SystemOptionsForm.NexradLabel", 20, 106, 220, 22},
+    {"SystemOptionsForm.NexradIndexMax", 260, 106, 100, 24},
+    {"SystemOptionsForm.NWSLabel", 20, 142, 220, 22},
+    {"SystemOptionsForm.NWSIndexMax", 260, 142, 100, 24},
+    {"SystemOptionsForm.AutoConnect", 20, 34, 360, 22},
+    {"SystemOptionsForm.SponsorBanner", 10, 290, 400, 40},
+    {"SystemOptionsForm.OKButton", 310, 340, 100, 30},
+};
+
+void Place(Control& control, const PlaceRow& row) {
+  const int scale = dynamic_cast<Form*>(&control) ? kTwipsPerPixel : 1;
+  control.Left = row.left * scale;
+  control.Top = row.top * scale;
+  control.Width = row.width * scale;
+  control.Height = row.height * scale;
+}
+
+}  // namespace
+
+void ApplySkin() {
+  for (const PlaceRow& row : kSkin) {
+    if (Control* control = FindControl(row.control)) {
+      Place(*control, row);
+      continue;
+    }
+    // A control array: its members lie on one another.
+    for (int i = 0; Control* member = FindControl(std::string(row.control) + "[" + std::to_string(i) + "]"); ++i) {
+      Place(*member, row);
+    }
+  }
+}
+
+}  // namespace skyloft

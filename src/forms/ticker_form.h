@@ -1,0 +1,17 @@
+// The bar at the edge of the screen.
+#pragma once
+
+#include "platform/controls.h"
+
+namespace skyloft {
+
+struct TickerFormControls : Form {
+  TickerFormControls() : Form("TickerForm", "Skyloft Ticker") {}
+
+  HtmlDisplay Sponsor4{this, "Sponsor4"};
+  HtmlDisplay Ticker{this, "Ticker"};
+};
+
+extern TickerFormControls TickerForm;
+
+}  // namespace skyloft

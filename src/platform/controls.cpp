@@ -1,0 +1,305 @@
+#include "platform/controls.h"
+
+#include <algorithm>
+
+namespace skyloft {
+namespace {
+
+std::vector<Control*>& DirtyList() {
+  static std::vector<Control*> list;
+  return list;
+}
+
+}  // namespace
+
+Control::Control(Form* form, std::string name, Control* container)
+    : form_(form), name_(std::move(name)), container_(container) {
+  if (form_) form_->controls_.list.push_back(this);
+}
+
+Control& Control::operator=(const Control& other) {
+  Visible = other.Visible;
+  Enabled = other.Enabled;
+  ToolTip = other.ToolTip;
+  Left = other.Left;
+  Top = other.Top;
+  Width = other.Width;
+  Height = other.Height;
+  return *this;
+}
+
+Control::~Control() {
+  if (dirty_) std::erase(DirtyList(), this);
+}
+
+void Control::MarkDirty() {
+  if (dirty_) return;
+  dirty_ = true;
+  DirtyList().push_back(this);
+}
+
+std::vector<Control*> TakeDirtyControls() {
+  std::vector<Control*> dirty = std::exchange(DirtyList(), {});
+  for (Control* control : dirty) control->dirty_ = false;
+  return dirty;
+}
+
+bool AnyDirtyControl() { return !DirtyList().empty(); }
+
+void Control::Describe(PropertyList& out) const {
+  out.emplace_back("visible", Visible.Get());
+  out.emplace_back("enabled", Enabled.Get());
+  if (!ToolTip.Get().empty()) out.emplace_back("tooltip", ToolTip.Get());
+  if (Width > 0 || Height > 0) {
+    out.emplace_back("left", double(Left));
+    out.emplace_back("top", double(Top));
+    out.emplace_back("width", double(Width));
+    out.emplace_back("height", double(Height));
+  }
+}
+
+Form::Form(std::string name, std::string caption) : Control(nullptr, std::move(name)) {
+  Visible = false;
+  Caption = std::move(caption);
+}
+
+void Form::Describe(PropertyList& out) const {
+  out.emplace_back("visible", Visible.Get());
+  out.emplace_back("left", double(Left));
+  out.emplace_back("top", double(Top));
+  out.emplace_back("width", double(Width));
+  out.emplace_back("height", double(Height));
+  out.emplace_back("topmost", TopMost.Get());
+  out.emplace_back("caption", Caption.Get());
+}
+
+void Label::Describe(PropertyList& out) const {
+  Control::Describe(out);
+  out.emplace_back("caption", Caption.Get());
+}
+
+void Label::Press() {
+  if (Enabled) Fire(Click);
+}
+
+void TextBox::Describe(PropertyList& out) const {
+  Control::Describe(out);
+  out.emplace_back("value", Text.Get());
+}
+
+void TextBox::Enter(std::string text) {
+  if (!Enabled || Locked) return;
+  Text = std::move(text);
+  Fire(Change);
+}
+
+void Button::Describe(PropertyList& out) const {
+  Control::Describe(out);
+  out.emplace_back("caption", Caption.Get());
+}
+
+void Button::Press() {
+  if (Enabled) Fire(Click);
+}
+
+void CheckBox::Describe(PropertyList& out) const {
+  Control::Describe(out);
+  out.emplace_back("caption", Caption.Get());
+  out.emplace_back("checked", Checked.Get());
+}
+
+void CheckBox::Check(bool checked) {
+  if (!Enabled) return;
+  Checked = checked;
+  Fire(Click);
+}
+
+void ListControl::Describe(PropertyList& out) const {
+  Control::Describe(out);
+  out.emplace_back("items", items_);
+  out.emplace_back("index", double(index_));
+  out.emplace_back("text", Text());
+}
+
+std::string ListControl::Text() const { return index_ < 0 ? "" : items_[static_cast<size_t>(index_)]; }
+
+void ListControl::AddItem(std::string text) {
+  items_.push_back(std::move(text));
+  MarkDirty();
+}
+
+void ListControl::RemoveItem(int index) {
+  items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(CheckedIndex(index, items_.size())));
+  if (index == index_) index_ = -1;
+  if (index < index_) --index_;
+  MarkDirty();
+}
+
+void ListControl::Clear() {
+  items_.clear();
+  index_ = -1;
+  MarkDirty();
+}
+
+void ListControl::Select(int index) {
+  if (index != -1) CheckedIndex(index, items_.size());
+  index_ = index;
+  MarkDirty();
+  Fire(Click);
+}
+
+void Picture::Describe(PropertyList& out) const {
+  Control::Describe(out);
+  out.emplace_back("picture", picture_);
+}
+
+void Picture::Press() {
+  if (Enabled) Fire(Click);
+}
+
+void Picture::SetPicture(std::string path) {
+  picture_ = std::move(path);
+  MarkDirty();
+}
+
+void ImageButton::Down() {
+  if (Enabled) Fire(MouseDown);
+}
+
+void ImageButton::Up() {
+  if (Enabled) Fire(MouseUp);
+}
+
+void ImageView::Describe(PropertyList& out) const {
+  Control::Describe(out);
+  out.emplace_back("image", PicturePath());
+  out.emplace_back("zoom", Zoom.Get());
+  out.emplace_back("view_x", double(ViewX));
+  out.emplace_back("view_y", double(ViewY));
+  out.emplace_back("mouse_tool", double(MouseTool));
+}
+
+void HtmlDisplay::Describe(PropertyList& out) const {
+  Control::Describe(out);
+  out.emplace_back("document", Document.Get());
+}
+
+void HtmlDisplay::Press() {
+  if (Enabled) Fire(Click);
+}
+
+void ProgressBar::Describe(PropertyList& out) const {
+  Control::Describe(out);
+  out.emplace_back("min", double(Min));
+  out.emplace_back("max", double(Max));
+  out.emplace_back("value", double(Value));
+  out.emplace_back("color", double(Color));
+}
+
+void Frame::Describe(PropertyList& out) const {
+  Control::Describe(out);
+  out.emplace_back("caption", Caption.Get());
+}
+
+void TabStrip::Describe(PropertyList& out) const {
+  Control::Describe(out);
+  out.emplace_back("items", Tabs);
+  out.emplace_back("index", double(selected_));
+  out.emplace_back("text", Tabs.empty() ? "" : Tabs[static_cast<size_t>(selected_ - 1)]);
+}
+
+void TabStrip::Select(int tab) {
+  CheckedIndex(tab - 1, Tabs.size());
+  selected_ = tab;
+  MarkDirty();
+  Fire(Click);
+}
+
+void Mark::Describe(PropertyList& out) const {
+  Control::Describe(out);
+  out.emplace_back("color", double(Color));
+}
+
+void TrayIcon::Describe(PropertyList& out) const {
+  Control::Describe(out);
+  out.emplace_back("picture", Icon.Get());
+  out.emplace_back("added", Added.Get());
+}
+
+Timer::Timer(Form* form, std::string name, int interval) : Control(form, std::move(name)) {
+  Enabled = false;
+  Interval = interval;
+}
+
+void Timer::Describe(PropertyList& out) const {
+  out.emplace_back("enabled", Enabled.Get());
+  out.emplace_back("interval", double(Interval));
+}
+
+void Timer::Elapse() {
+  if (ticking_) return;
+  struct Busy {
+    bool& flag;
+    explicit Busy(bool& f) : flag(f) { flag = true; }
+    ~Busy() { flag = false; }
+  } busy(ticking_);
+  Fire(Tick);
+}
+
+HttpControl::HttpControl(Form* form, std::string name, int timeout)
+    : Control(form, std::move(name)), Timeout(timeout) {}
+
+void HttpControl::Describe(PropertyList& out) const {
+  out.emplace_back("value", double(State));
+  out.emplace_back("interval", double(Timeout));
+}
+
+void FileList::Describe(PropertyList& out) const {
+  out.emplace_back("text", Path);
+  out.emplace_back("items", Files);
+}
+
+MenuItem::MenuItem(Form* form, std::string name, std::string caption, Control* container)
+    : Control(form, std::move(name), container) {
+  Caption = std::move(caption);
+}
+
+MenuItem::MenuItem(Form* form, std::string name, Control* container) : Control(form, std::move(name), container) {
+  Visible = false;
+}
+
+void MenuItem::Describe(PropertyList& out) const {
+  Control::Describe(out);
+  out.emplace_back("caption", Caption.Get());
+  out.emplace_back("checked", Checked.Get());
+}
+
+void MenuItem::Press() {
+  if (Enabled) Fire(Click);
+}
+
+#define SKYLOFT_ACCEPT(Kind) \
+  void Kind::Accept(ControlVisitor& visitor) { visitor.Visit(*this); }
+SKYLOFT_ACCEPT(Form)
+SKYLOFT_ACCEPT(Label)
+SKYLOFT_ACCEPT(TextBox)
+SKYLOFT_ACCEPT(Button)
+SKYLOFT_ACCEPT(CheckBox)
+SKYLOFT_ACCEPT(OptionButton)
+SKYLOFT_ACCEPT(ListControl)
+SKYLOFT_ACCEPT(Picture)
+SKYLOFT_ACCEPT(ImageButton)
+SKYLOFT_ACCEPT(ImageView)
+SKYLOFT_ACCEPT(HtmlDisplay)
+SKYLOFT_ACCEPT(ProgressBar)
+SKYLOFT_ACCEPT(Frame)
+SKYLOFT_ACCEPT(TabStrip)
+SKYLOFT_ACCEPT(Mark)
+SKYLOFT_ACCEPT(TrayIcon)
+SKYLOFT_ACCEPT(Timer)
+SKYLOFT_ACCEPT(HttpControl)
+SKYLOFT_ACCEPT(FileList)
+SKYLOFT_ACCEPT(MenuItem)
+#undef SKYLOFT_ACCEPT
+
+}  // namespace skyloft

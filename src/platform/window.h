@@ -1,0 +1,22 @@
+// What a window can do besides being shown.
+#pragma once
+
+#include "platform/controls.h"
+
+namespace skyloft {
+
+// A round rectangle in window pixels; the corners are ellipses of that width and height.
+struct RoundRegion {
+  int left, top, right, bottom;
+  int corner_width, corner_height;
+  bool operator==(const RoundRegion&) const = default;
+};
+
+// Only what lies in the region is the window.
+void SetWindowRegion(Form& form, const RoundRegion& region);
+// Lets the user drag the window with the button that is down.
+void StartWindowDrag(Form& form);
+// Pops up a menu at the mouse: the entries of `menu`, with their submenus.
+void PopUpMenu(Form& form, MenuItem& menu);
+
+}  // namespace skyloft

@@ -1,0 +1,8 @@
+#include "ticker/messages.h"
+
+namespace skyloft {
+
+void LoadMessages() {}
+void RotateSponsors() {}
+
+}  // namespace skyloft

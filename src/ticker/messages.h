@@ -1,0 +1,12 @@
+// The server's messages and banners.
+#pragma once
+
+namespace skyloft {
+
+// Reads the message feed. Does nothing yet.
+void LoadMessages();
+
+// The rotation step of the banners. Does nothing yet.
+void RotateSponsors();
+
+}  // namespace skyloft

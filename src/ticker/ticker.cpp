@@ -1,0 +1,9 @@
+#include "ticker/ticker.h"
+
+namespace skyloft {
+
+TickerState TickerRotation;
+
+void TickerDisplay() {}
+
+}  // namespace skyloft

@@ -1,0 +1,9 @@
+#include "weather/almanac.h"
+
+namespace skyloft {
+
+AlmanacTables Almanac;
+
+void GetAlmanac() {}
+
+}  // namespace skyloft
