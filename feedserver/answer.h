@@ -1,0 +1,32 @@
+// Answers every query that the program makes. A pure function: the same request to the same world is the same
+// reply.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "base/dates.h"
+
+namespace skyloft::feed {
+
+struct World {
+  std::uint64_t seed = 1;
+  std::string offered_version = "1.20.00";  // of the program, told by the configuration
+  std::string update_file;                  // what is served as the update; "" when there is none
+};
+
+struct Request {
+  std::string path;   // "/forecast.asp"
+  std::string query;  // behind the "?", escapes unresolved
+  Date now;           // GMT
+};
+
+struct Reply {
+  int status = 200;
+  std::string type = "text/xml";
+  std::string body;
+};
+
+Reply Answer(const Request& request, const World& world);
+
+}  // namespace skyloft::feed

@@ -1,0 +1,63 @@
+// skyloft-feed: the companion server.
+#include <unistd.h>
+
+#include <array>
+#include <ctime>
+#include <exception>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <thread>
+
+#include "base/guard.h"
+#include "feedserver/options.h"
+#include "feedserver/server.h"
+
+namespace skyloft::feed {
+namespace {
+
+Date GmtNow() { return {MakeDate(1970, 1, 1).seconds + static_cast<std::int64_t>(std::time(nullptr))}; }
+
+std::string ReadFile(const std::string& file_name) {
+  std::ifstream file(file_name, std::ios::binary);
+  if (!file) throw RuntimeError("cannot read " + file_name);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+// Whoever started the server holds the other end of its input; so it never outlives them.
+void EndWithInput() {
+  std::array<char, 256> ignored;
+  while (read(STDIN_FILENO, ignored.data(), ignored.size()) > 0) {
+  }
+  _exit(0);
+}
+
+int Serve(const std::vector<std::string>& arguments) {
+  Options options = ReadOptions(arguments);
+  if (options.wants_help) {
+    std::cout << HelpText();
+    return 0;
+  }
+  if (!options.update_file.empty()) options.world.update_file = ReadFile(options.update_file);
+  FaultBook faults;
+  for (Fault& fault : options.faults) faults.Add(std::move(fault));
+  RequestLog log(options.log_file);
+  const auto clock = [&options] { return options.now ? *options.now : GmtNow(); };
+  Server server({options.world, clock, faults, log}, options.port);
+  std::cout << "listening " << server.Port() << std::endl;
+  if (!options.stays) std::thread(EndWithInput).detach();
+  server.Run();
+  return 0;
+}
+
+}  // namespace
+}  // namespace skyloft::feed
+
+int main(int argc, char** argv) {
+  try {
+    return skyloft::feed::Serve({argv + 1, argv + argc});
+  } catch (const std::exception& error) {
+    std::cerr << "skyloft-feed: " << error.what() << std::endl;
+    return 2;
+  }
+}

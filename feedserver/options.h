@@ -1,0 +1,28 @@
+// What the command line asks of the server.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "feedserver/answer.h"
+#include "feedserver/faults.h"
+
+namespace skyloft::feed {
+
+struct Options {
+  int port = 8080;          // 0 is any free one
+  World world;              // the update file is not yet read
+  std::optional<Date> now;  // the clock stands there; GMT
+  std::string log_file, update_file;
+  std::vector<Fault> faults;
+  bool stays = false;  // does not end with its standard input
+  bool wants_help = false;
+};
+
+// Raises, with a text for the user, for what it does not understand.
+Options ReadOptions(const std::vector<std::string>& arguments);
+std::string_view HelpText();
+
+}  // namespace skyloft::feed

@@ -1,0 +1,37 @@
+// The towns that the server knows, and the clock there.
+#pragma once
+
+#include <string_view>
+
+#include "base/dates.h"
+#include "feedserver/weather.h"
+
+namespace skyloft::feed {
+
+struct RadarSite {
+  std::string_view code;
+  Point point;
+};
+
+struct Place {
+  std::string_view postal_code, city, state, state_name, county, area_code;
+  Point point;
+  int gmt_offset;            // standard time, hours; negative in the west
+  bool has_daylight_time;    // whether the clocks change in summer
+  std::string_view office;   // of the National Weather Service
+  RadarSite radar;           // the nearest of the NEXRAD network
+  std::string_view station;  // where the weather is observed
+};
+
+// Null when there is no such place. City and state are compared without case and outer blanks.
+const Place* FindPlace(std::string_view postal_code);
+const Place* FindPlace(std::string_view city, std::string_view state);
+// The place nearest to a point.
+const Place& NearestPlace(Point point);
+
+// Whether the clocks of a place show daylight time: from the second Sunday of March to the first Sunday of
+// November, 2 AM on the clock. Source: Energy Policy Act of 2005, in force since 2007; taken for all years.
+bool IsDaylightTime(const Place& place, Date gmt);
+Date LocalTime(const Place& place, Date gmt);
+
+}  // namespace skyloft::feed

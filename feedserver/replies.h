@@ -1,0 +1,22 @@
+// The replies behind Answer, one procedure for each kind.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "feedserver/answer.h"
+#include "feedserver/query.h"
+
+namespace skyloft::feed {
+
+// Meta data, current, historical, hourly or extended, as the query asks; nothing for a query of another kind.
+std::optional<std::string> ForecastXml(const Query& query, Date now, std::uint64_t seed);
+// Everything about one place; a document without tags when the place is unknown.
+std::string LocationXml(const Query& query, Date now);
+std::string HostsXml(const World& world);
+// The map products of a model run ("00" to "18"), and the edges of their maps.
+std::string ProductsXml(std::string_view run_hour);
+std::string SectorsXml();
+
+}  // namespace skyloft::feed
