@@ -12,7 +12,7 @@ namespace skyloft::feed {
 struct World {
   std::uint64_t seed = 1;
   std::string offered_version = "1.20.00";  // of the program, told by the configuration
-  std::string update_file;                  // what is served as the update; "" when there is none
+  std::string update_file{};                // what is served as the update; "" when there is none
 };
 
 struct Request {

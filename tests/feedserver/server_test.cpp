@@ -1,0 +1,134 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <thread>
+
+#include "running_server.h"
+
+namespace skyloft::feed {
+namespace {
+
+using std::chrono::milliseconds;
+
+std::string FileOfTest(const char* name) {
+  return (std::filesystem::temp_directory_path() / ("skyloft_" + std::to_string(getpid()) + name)).string();
+}
+
+std::string ReadWhole(const std::string& file_name) {
+  std::ostringstream text;
+  text << std::ifstream(file_name, std::ios::binary).rdbuf();
+  return text.str();
+}
+
+TEST(Server, AnswersOverARealSocket) {
+  RunningServer server({"--port", "0"});
+  ASSERT_GT(server.Port(), 0);
+  const std::string reply = Get(server.Port(), "/forecast.asp?t=xml&d=meta&pc=66044");
+  EXPECT_EQ(reply.substr(0, 15), "HTTP/1.1 200 OK");
+  EXPECT_NE(reply.find("Content-Length: " + std::to_string(BodyOf(reply).size())), reply.npos);
+  EXPECT_NE(reply.find("<Model_TS_UTC>Mar 07 2003 12:00PM</Model_TS_UTC>"), reply.npos);
+  EXPECT_EQ(Get(server.Port(), "/nothing").substr(0, 12), "HTTP/1.1 404");
+}
+
+TEST(Server, SeedAndClockMakeItRepeatable) {
+  const std::string target = "/forecast.asp?t=xml&fcsttype=extended&pc=66044";
+  RunningServer one({"--port", "0", "--seed", "5"}), same({"--port", "0", "--seed", "5"}),
+      other({"--port", "0"});
+  const std::string reply = Get(one.Port(), target);
+  EXPECT_EQ(reply, Get(same.Port(), target));
+  EXPECT_NE(reply, Get(other.Port(), target));
+}
+
+TEST(Server, LogsALineForEveryRequest) {
+  const std::string log = FileOfTest(".log");
+  {
+    RunningServer server({"--port", "0", "--log", log});
+    const std::string body = BodyOf(Get(server.Port(), "/bulletins.asp?x=%22"));
+    Get(server.Port(), "/nothing");
+    std::istringstream lines(ReadWhole(log));
+    std::string first, second, third;
+    std::getline(lines, first);
+    std::getline(lines, second);
+    EXPECT_TRUE(first.starts_with("{\"time\":\"20")) << first;
+    EXPECT_NE(
+        first.find("\"method\":\"GET\",\"path\":\"/bulletins.asp\",\"query\":\"x=%22\",\"http\":\"HTTP/1.0\","
+                   "\"agent\":\"plain \\\"client\\\"\",\"status\":200,\"bytes\":" +
+                   std::to_string(body.size()) + "}"),
+        first.npos)
+        << first;
+    EXPECT_NE(second.find("\"path\":\"/nothing\""), second.npos);
+    EXPECT_NE(second.find("\"status\":404"), second.npos);
+    EXPECT_FALSE(std::getline(lines, third));
+  }
+  std::filesystem::remove(log);
+}
+
+TEST(Server, EndsWithItsInput) {
+  RunningServer server({"--port", "0"});
+  ASSERT_GT(server.Port(), 0);
+  EXPECT_EQ(server.ExitStatus(milliseconds(100)), -1);
+  server.CloseInput();
+  EXPECT_EQ(server.ExitStatus(milliseconds(5000)), 0);
+}
+
+TEST(Server, StaysWhenAskedTo) {
+  RunningServer server({"--port", "0", "--stay"});
+  server.CloseInput();
+  EXPECT_EQ(server.ExitStatus(milliseconds(200)), -1);
+  EXPECT_NE(Get(server.Port(), "/bulletins.asp"), "");
+}
+
+TEST(Server, ListensOnLoopbackOnly) {
+  RunningServer server({"--port", "0"});
+  std::array<char, 8> port;
+  std::snprintf(port.data(), port.size(), "%04X", static_cast<unsigned>(server.Port()));
+  int listeners = 0;
+  for (const char* table : {"/proc/net/tcp", "/proc/net/tcp6"}) {
+    std::ifstream lines(table);
+    std::string line;
+    while (std::getline(lines, line)) {
+      std::istringstream fields(line);
+      std::string number, local, remote, state;
+      fields >> number >> local >> remote >> state;
+      if (state != "0A" || !local.ends_with(std::string(":") + port.data())) continue;  // 0A is a listener
+      ++listeners;
+      EXPECT_EQ(local, std::string("0100007F:") + port.data());
+    }
+  }
+  EXPECT_EQ(listeners, 1);
+}
+
+TEST(Server, PortInUseIsAnError) {
+  RunningServer first({"--port", "0"});
+  RunningServer second({"--port", std::to_string(first.Port())});
+  EXPECT_EQ(second.Port(), 0);
+  EXPECT_EQ(second.ExitStatus(milliseconds(5000)), 2);
+}
+
+TEST(Server, OptionNotUnderstoodIsAnError) {
+  RunningServer server({"--what"});
+  EXPECT_EQ(server.ExitStatus(milliseconds(5000)), 2);
+}
+
+TEST(Server, ServesAnUpdate) {
+  const std::string file = FileOfTest(".exe");
+  const std::string content("MZ\0\xFF update", 11);
+  std::ofstream(file, std::ios::binary) << content;
+  RunningServer server({"--port", "0", "--update", file, "--offer-version", "1.21.00"});
+  EXPECT_EQ(BodyOf(Get(server.Port(), "/skltupdate.exe")), content);
+  EXPECT_NE(Get(server.Port(), "/skyloft/config/hosts.xml").find("<version>1.21.00</version>"),
+            std::string::npos);
+  std::filesystem::remove(file);
+}
+
+TEST(Server, BurstOfConnectionsIsAnswered) {
+  RunningServer server({"--port", "0"});
+  std::vector<std::unique_ptr<Client>> clients;
+  for (int i = 0; i < 200; ++i) clients.push_back(std::make_unique<Client>(server.Port(), "/bulletins.asp"));
+  for (const auto& client : clients) EXPECT_TRUE(client->Receive().starts_with("HTTP/1.1 200"));
+}
+
+}  // namespace
+}  // namespace skyloft::feed
