@@ -1,0 +1,83 @@
+#include "platform/qt/html/html_elements.h"
+
+#include <litehtml/el_anchor.h>
+#include <litehtml/el_body.h>
+#include <litehtml/el_break.h>
+#include <litehtml/el_image.h>
+#include <litehtml/el_table.h>
+#include <litehtml/el_tr.h>
+
+#include <functional>
+#include <map>
+
+#include "platform/qt/html/html_hints.h"
+
+namespace skyloft {
+namespace {
+
+// An element of the engine with our hints. Base has no mapping of its own that could contradict: its result
+// is overwritten, and the background never reaches it (it cuts addresses at a parenthesis).
+template <class Base>
+class Hinted : public Base {
+ public:
+  Hinted(const std::shared_ptr<litehtml::document>& document, LayoutBudget& budget)
+      : Base(document), budget_(budget) {}
+
+  int render(int x, int y, int max_width, bool second_pass) override {
+    budget_.Spend();
+    return Base::render(x, y, max_width, second_pass);
+  }
+
+  void parse_attributes() override {
+    const auto background = this->m_attrs.find("background");
+    if (background != this->m_attrs.end()) {
+      background_ = background->second;
+      this->m_attrs.erase(background);
+    }
+    Base::parse_attributes();
+    for (const StyleHint& hint : HintsOf(*this)) {
+      this->m_style.add_property(hint.property, hint.value.c_str(), nullptr, false, this);
+    }
+  }
+
+  void parse_styles(bool is_reparse) override {
+    Base::parse_styles(is_reparse);
+    if (background_.empty() || !this->m_bg.m_image.empty()) return;
+    this->m_bg.m_image = background_;
+    this->get_document()->container()->load_image(background_.c_str(), nullptr, true);
+  }
+
+ private:
+  LayoutBudget& budget_;
+  std::string background_;
+};
+
+using Maker = std::shared_ptr<litehtml::element> (*)(const std::shared_ptr<litehtml::document>&,
+                                                     LayoutBudget&);
+
+template <class Base>
+std::shared_ptr<litehtml::element> Make(const std::shared_ptr<litehtml::document>& document,
+                                        LayoutBudget& budget) {
+  return std::make_shared<Hinted<Base>>(document, budget);
+}
+
+}  // namespace
+
+std::shared_ptr<litehtml::element> CreateHtmlElement(const std::string& tag,
+                                                     const std::shared_ptr<litehtml::document>& document,
+                                                     LayoutBudget& budget) {
+  static const std::map<std::string, Maker, std::less<>> makers = {
+      {"a", Make<litehtml::el_anchor>},    {"body", Make<litehtml::el_body>},
+      {"br", Make<litehtml::el_break>},    {"img", Make<litehtml::el_image>},
+      {"table", Make<litehtml::el_table>}, {"tr", Make<litehtml::el_tr>},
+  };
+  // What carries no box keeps the engine's own class.
+  static constexpr const char* kEnginesOwn[] = {"style", "link", "title", "base", "script"};
+  for (const char* own : kEnginesOwn) {
+    if (tag == own) return nullptr;
+  }
+  const auto maker = makers.find(tag);
+  return maker == makers.end() ? Make<litehtml::html_tag>(document, budget) : maker->second(document, budget);
+}
+
+}  // namespace skyloft

@@ -1,0 +1,226 @@
+#include "platform/qt/html/html_view.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPointer>
+#include <QTimer>
+#include <QWheelEvent>
+#include <algorithm>
+
+#include "base/text.h"
+#include "platform/qt/html/html_container.h"
+#include "platform/qt/html/html_prepass.h"
+#include "platform/qt/html/html_scroller.h"
+#include "platform/qt/html/master_style.h"
+
+namespace skyloft {
+namespace {
+
+constexpr int kBarWidth = 8;
+constexpr int kLine = 40;  // pixels that a key or a notch of the wheel scrolls
+
+litehtml::context& EngineContext() {
+  static litehtml::context context = [] {
+    litehtml::context fresh;
+    fresh.load_master_stylesheet(kMasterStyle);
+    return fresh;
+  }();
+  return context;
+}
+
+QString AttributeOf(const litehtml::element::ptr& element, const char* name) {
+  return QString::fromUtf8(element->get_attr(name, ""));
+}
+
+}  // namespace
+
+HtmlView::HtmlView(HtmlServices services, QWidget* parent)
+    : QWidget(parent),
+      services_(std::move(services)),
+      loader_(std::make_shared<HtmlLoader>(services_,
+                                           [view = QPointer(this)](bool sheet) {
+                                             if (view) view->Post(sheet);
+                                           })),
+      container_(std::make_unique<HtmlContainer>(loader_)) {
+  setMouseTracking(true);
+  setFocusPolicy(Qt::ClickFocus);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+HtmlView::~HtmlView() = default;
+
+void HtmlView::SetDocument(const std::string& html) {
+  page_ = ToUtf8(TidyHtml(html));
+  loader_->BeginDocument();
+  rebuild_ = false;
+  scroll_ = 0;
+  Build();
+  ShowScroller();
+  PlaySounds();
+}
+
+bool HtmlView::Idle() const { return loader_->Idle() && !posted_; }
+
+QSize HtmlView::DocumentSize() const {
+  return document_ ? QSize(document_->width(), document_->height()) : QSize(0, 0);
+}
+
+void HtmlView::Build() {
+  container_->SetViewSize(size());
+  document_.reset();
+  try {
+    container_->Budget().Refill();
+    document_ = litehtml::document::createFromUTF8(page_.c_str(), container_.get(), &EngineContext());
+  } catch (const LayoutTooCostly&) {
+    document_.reset();
+  }
+  const auto body = document_ && document_->root() ? document_->root()->select_one("body") : nullptr;
+  scrollable_ = !body || body->get_overflow() != litehtml::overflow_hidden;
+  LayOut();
+}
+
+void HtmlView::LayOut() {
+  if (!document_) return;
+  container_->SetViewSize(size());
+  try {
+    container_->Budget().Refill();
+    document_->render(width());
+    if (MaxScroll() > 0) document_->render(width() - kBarWidth);
+  } catch (const LayoutTooCostly&) {
+    document_.reset();
+  }
+  ScrollTo(scroll_);
+  if (loader_->HasWaiting()) Post(false);
+  update();
+}
+
+// The scroller element takes the whole view, as on the pages that have it there is nothing else.
+void HtmlView::ShowScroller() {
+  delete std::exchange(scroller_, nullptr);
+  const auto applet = document_ ? document_->root()->select_one("applet") : nullptr;
+  if (!applet) return;
+  for (const auto& param : applet->select_all("param")) {
+    if (AttributeOf(param, "name").compare("text", Qt::CaseInsensitive) == 0) {
+      scroller_ = new HtmlScroller(AttributeOf(param, "value"), this);
+    }
+  }
+  if (!scroller_) return;
+  scroller_->setGeometry(rect());
+  scroller_->show();
+}
+
+void HtmlView::PlaySounds() {
+  if (!document_ || !services_.play_sound) return;
+  for (const auto& sound : document_->root()->select_all("bgsound")) {
+    const QString path = LocalPathOf(AttributeOf(sound, "src"));
+    if (!path.isEmpty()) QTimer::singleShot(0, this, [this, path] { services_.play_sound(path); });
+  }
+}
+
+// Everything that must not happen inside the engine or a fetch is posted; several requests are one.
+void HtmlView::Post(bool rebuild) {
+  rebuild_ = rebuild_ || rebuild;
+  if (std::exchange(posted_, true)) return;
+  QTimer::singleShot(0, this, [this] { RunPosted(); });
+}
+
+void HtmlView::RunPosted() {
+  posted_ = false;
+  if (std::exchange(rebuild_, false)) {
+    Build();
+  } else {
+    LayOut();
+  }
+  loader_->StartFetches();  // last: the view may end in it
+}
+
+int HtmlView::MaxScroll() const {
+  return scrollable_ && document_ ? std::max(0, document_->height() - height()) : 0;
+}
+
+void HtmlView::ScrollTo(int y) {
+  scroll_ = std::clamp(y, 0, MaxScroll());
+  update();
+}
+
+// The handle of the scroll bar; empty when there is none.
+QRect HtmlView::BarRect() const {
+  const int hidden = MaxScroll();
+  if (hidden == 0) return {};
+  const int handle = std::max(20, height() * height() / (height() + hidden));
+  return {width() - kBarWidth, (height() - handle) * scroll_ / hidden, kBarWidth, handle};
+}
+
+void HtmlView::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), Qt::white);
+  if (document_) container_->Paint(*document_, painter, {0, -scroll_}, rect());
+  if (const QRect handle = BarRect(); !handle.isEmpty()) {
+    painter.fillRect(width() - kBarWidth, 0, kBarWidth, height(), QColor(0x0d, 0x1b, 0x36));
+    painter.fillRect(handle.adjusted(1, 1, -1, -1), QColor(0x5b, 0x9b, 0xff));
+  }
+}
+
+void HtmlView::resizeEvent(QResizeEvent*) {
+  if (scroller_) scroller_->setGeometry(rect());
+  LayOut();
+}
+
+void HtmlView::wheelEvent(QWheelEvent* event) { ScrollTo(scroll_ - event->angleDelta().y() * kLine / 120); }
+
+void HtmlView::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Up: return ScrollTo(scroll_ - kLine);
+    case Qt::Key_Down: return ScrollTo(scroll_ + kLine);
+    case Qt::Key_PageUp: return ScrollTo(scroll_ - height());
+    case Qt::Key_PageDown: return ScrollTo(scroll_ + height());
+    case Qt::Key_Home: return ScrollTo(0);
+    case Qt::Key_End: return ScrollTo(MaxScroll());
+    default: QWidget::keyPressEvent(event);
+  }
+}
+
+void HtmlView::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  const QPoint at = event->position().toPoint();
+  if (MaxScroll() > 0 && at.x() >= width() - kBarWidth) {
+    drag_ = BarRect().contains(at) ? at.y() - BarRect().y() : BarRect().height() / 2;
+    return mouseMoveEvent(event);
+  }
+  litehtml::position::vector redraw;
+  if (document_) document_->on_lbutton_down(at.x(), at.y() + scroll_, at.x(), at.y(), redraw);
+}
+
+void HtmlView::mouseMoveEvent(QMouseEvent* event) {
+  const QPoint at = event->position().toPoint();
+  if (drag_ >= 0) {
+    const int way = std::max(1, height() - BarRect().height());
+    return ScrollTo(static_cast<int>(qint64{at.y() - drag_} * MaxScroll() / way));
+  }
+  litehtml::position::vector redraw;
+  if (!document_) return;
+  if (document_->on_mouse_over(at.x(), at.y() + scroll_, at.x(), at.y(), redraw)) update();
+  setCursor(container_->Cursor());
+}
+
+void HtmlView::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  if (std::exchange(drag_, -1) >= 0) return;
+  const QPoint at = event->position().toPoint();
+  litehtml::position::vector redraw;
+  if (document_) document_->on_lbutton_up(at.x(), at.y() + scroll_, at.x(), at.y(), redraw);
+  const QString url = container_->TakeClickedLink();
+  if (!url.isEmpty() && services_.open_link) {
+    QTimer::singleShot(0, this, [this, url] { services_.open_link(url); });
+  }
+  const auto handler = clicked;  // a copy: it may end this view
+  if (handler) handler();
+}
+
+void HtmlView::leaveEvent(QEvent*) {
+  litehtml::position::vector redraw;
+  if (document_ && document_->on_mouse_leave(redraw)) update();
+}
+
+}  // namespace skyloft

@@ -1,0 +1,70 @@
+// The one HTML display of the program: shows a page with local and remote pictures, follows links, runs no
+// scripts.
+#pragma once
+
+#include <QSize>
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "platform/qt/html/html_services.h"
+
+namespace litehtml {
+class document;
+}
+
+namespace skyloft {
+
+class HtmlContainer;
+class HtmlLoader;
+
+class HtmlView : public QWidget {
+ public:
+  explicit HtmlView(HtmlServices services, QWidget* parent = nullptr);
+  ~HtmlView() override;
+
+  // Shows the complete document (windows-1252) in place of the former one. What is remote comes in later.
+  // Sounds of the page play once. A page too costly to lay out shows as an empty one.
+  void SetDocument(const std::string& html);
+  // A click anywhere. Links are opened as well, by a posted call.
+  std::function<void()> clicked;
+  // Whether nothing of the present document is still being fetched or waits to be shown.
+  bool Idle() const;
+  // Of the whole document, in pixels; 0 by 0 before the first.
+  QSize DocumentSize() const;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+
+ private:
+  void Build();
+  void LayOut();
+  void ShowScroller();
+  void PlaySounds();
+  void Post(bool rebuild);
+  void RunPosted();
+  void ScrollTo(int y);
+  int MaxScroll() const;
+  QRect BarRect() const;
+
+  const HtmlServices services_;
+  const std::shared_ptr<HtmlLoader> loader_;
+  const std::unique_ptr<HtmlContainer> container_;
+  std::shared_ptr<litehtml::document> document_;  // must end before its container
+  std::string page_;                              // tidied, UTF-8
+  QWidget* scroller_ = nullptr;
+  bool scrollable_ = true;  // body { overflow: hidden } has no scroll bar
+  bool posted_ = false, rebuild_ = false;
+  int scroll_ = 0;  // pixels of the document above the view
+  int drag_ = -1;   // where in the bar's handle the mouse holds it; -1 for not
+};
+
+}  // namespace skyloft
