@@ -90,9 +90,20 @@ QImage DrawAppIcon(int size) {
   return picture;
 }
 
+// The arrow of the lists.
+QImage DrawArrow() {
+  QImage picture = NewCanvas(10, 6);
+  QPainter painter(&picture);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(QColor(159, 182, 230), 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.drawPolyline(QPolygonF({{1, 1}, {5, 5}, {9, 1}}));
+  return picture;
+}
+
 }  // namespace
 
 void DrawSkin(const QString& skin) {
+  WritePicture(skin + "/arrow.png", DrawArrow());
   WritePicture(skin + "/mainform.png", DrawMainForm());
   WritePicture(skin + "/splash.png", DrawSplash());
   WritePicture(skin + "/app.png", DrawAppIcon(128));

@@ -25,9 +25,9 @@ enum class DateUnit { Seconds, Minutes, Hours };
 Date MakeDate(int year, int month, int day, int hour = 0, int minute = 0, int second = 0);
 DateParts PartsOf(Date date);
 
-// Reads a text as a date: "3/7/2003 2:15:00 PM" and its shorter forms, the time before the date, two-digit years
-// as 20yy, "2003/3/7 14:05:00", "2003-03-07 14:05:00", "17:30", "Mar  7 2003  2:00PM". ReadDate raises for
-// what is none of these ("", "24:00", "abc"); TryReadDate returns false and leaves `date`.
+// Reads a text as a date: "3/7/2003 2:15:00 PM" and its shorter forms, the time before the date, two-digit
+// years as 20yy, "2003/3/7 14:05:00", "2003-03-07 14:05:00", "17:30", "Mar  7 2003  2:00PM". ReadDate raises
+// for what is none of these ("", "24:00", "abc"); TryReadDate returns false and leaves `date`.
 Date ReadDate(std::string_view text);
 bool TryReadDate(std::string_view text, Date& date);
 
@@ -37,14 +37,14 @@ std::string DateText(Date date);
 
 // `amount` of `unit` later (earlier when negative). Raises beyond the years that MakeDate knows.
 Date DateAdd(DateUnit unit, std::int64_t amount, Date date);
-// From `first` to `second`: second - first. Seconds are exact; minutes and hours count the boundaries crossed, so
-// 10:59 to 11:00 is 1 hour.
+// From `first` to `second`: second - first. Seconds are exact; minutes and hours count the boundaries
+// crossed, so 10:59 to 11:00 is 1 hour.
 std::int64_t DateDiff(DateUnit unit, Date first, Date second);
 
 // The date by a pattern of the letters d, m, y, h, n, s in any case and an AM/PM mark; all else is copied.
-// "m" or "mm" directly after "h" or "hh" (only ":" between) is minutes, otherwise the month; "n" is always minutes.
-// With a mark the hour is of twelve (0 reads 12); "AM/PM" and "AMPM" give upper case, "am/pm" lower case.
-// "ddd", "dddd", "mmm", "mmmm" are English names, short and full; "yy" is two digits, "yyyy" four.
+// "m" or "mm" directly after "h" or "hh" (only ":" between) is minutes, otherwise the month; "n" is always
+// minutes. With a mark the hour is of twelve (0 reads 12); "AM/PM" and "AMPM" give upper case, "am/pm" lower
+// case. "ddd", "dddd", "mmm", "mmmm" are English names, short and full; "yy" is two digits, "yyyy" four.
 std::string Format(Date date, std::string_view pattern);
 // A text that is no date is returned unchanged.
 std::string Format(std::string_view date_text, std::string_view pattern);

@@ -14,8 +14,8 @@ struct RuntimeError : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-// Runs `body`; a run-time error in it (or memory trouble) ends it silently. Returns whether it came to its end.
-// Nothing else in the program catches.
+// Runs `body`; a run-time error in it (or memory trouble) ends it silently. Returns whether it came to its
+// end. Nothing else in the program catches.
 template <class Body>
 bool Guarded(Body&& body) {
   try {

@@ -20,8 +20,8 @@ std::string NumberText(double number);
 // "True" or "False".
 std::string BooleanText(bool value);
 
-// Whole number nearest to `value`, halves to the even neighbour: 2.5 is 2, 3.5 is 4. Raises outside the range of
-// long long.
+// Whole number nearest to `value`, halves to the even neighbour: 2.5 is 2, 3.5 is 4. Raises outside the range
+// of long long.
 long long RoundHalfEven(double value);
 // The same at a number of decimals, done as scale, round, unscale: 1.15 to one decimal is 1.2.
 double RoundHalfEven(double value, int decimals);

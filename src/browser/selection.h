@@ -3,8 +3,8 @@
 
 namespace skyloft {
 
-// Shows the location of LocationSelection's index: its conditions, its radar, and the product on show for it. Fetches
-// nothing; the data of all locations is held.
+// Shows the location of LocationSelection's index: its conditions, its radar, and the product on show for it.
+// Fetches nothing; the data of all locations is held.
 void SelectLocation();
 
 // Shows the product of ProductSelection. Does nothing yet.

@@ -11,10 +11,11 @@ namespace skyloft {
 namespace {
 
 constexpr const ImageButtonState* kButtons[] = {
-    &BackButtonState,     &NextButtonState,    &PlayButtonState,         &StopButtonState,     &ExitButtonState,
-    &HelpButtonState,     &MenuButtonState,    &LocalButtonState,        &NationalButtonState, &AreaZoomButtonState,
-    &ZoomInButtonState,   &ZoomOutButtonState, &ResetButtonState,        &LegendButtonState,   &PersonalButtonState,
-    &TornadoButtonState,  &ThunderstormButtonState, &FloodButtonState,
+    &BackButtonState,         &NextButtonState,     &PlayButtonState,     &StopButtonState,
+    &ExitButtonState,         &HelpButtonState,     &MenuButtonState,     &LocalButtonState,
+    &NationalButtonState,     &AreaZoomButtonState, &ZoomInButtonState,   &ZoomOutButtonState,
+    &ResetButtonState,        &LegendButtonState,   &PersonalButtonState, &TornadoButtonState,
+    &ThunderstormButtonState, &FloodButtonState,
 };
 
 void SetFlag(Control::Property<bool>& flag, const std::string& text) {
@@ -49,7 +50,8 @@ void ImageButtonState::operator()(const std::string& enabled, const std::string&
   if (!picture.empty()) LoadPicture(control, picture);
 }
 
-RoundRegion CreateWindowRegion(int width, int height, double x_scale, double y_scale, int x_offset, int y_offset) {
+RoundRegion CreateWindowRegion(int width, int height, double x_scale, double y_scale, int x_offset,
+                               int y_offset) {
   return {.left = x_offset,
           .top = Pixels(y_scale * -2 * 15) + y_offset,
           .right = Pixels(width * x_scale * 15) + x_offset,

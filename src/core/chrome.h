@@ -8,15 +8,16 @@
 
 namespace skyloft {
 
-// The outline of a window of `width` by `height` pixels. The top edge lies two pixels above the window, which is meant;
-// the corners are ellipses 110 wide and 96 high.
-RoundRegion CreateWindowRegion(int width, int height, double x_scale, double y_scale, int x_offset, int y_offset);
+// The outline of a window of `width` by `height` pixels. The top edge lies two pixels above the window, which
+// is meant; the corners are ellipses 110 wide and 96 high.
+RoundRegion CreateWindowRegion(int width, int height, double x_scale, double y_scale, int x_offset,
+                               int y_offset);
 
-// One image button: the procedure that sets its state, and its pictures under \icons\ ("" where it has none). Calling it
-// sets what is not empty: the flags by "True" or "False", the picture by the path of a file, which is read anew each
-// time. A missing file is a run-time error of the caller.
+// One image button: the procedure that sets its state, and its pictures under \icons\ ("" where it has none).
+// Calling it sets what is not empty: the flags by "True" or "False", the picture by the path of a file, which
+// is read anew each time. A missing file is a run-time error of the caller.
 struct ImageButtonState {
-  ImageButton MainFormControls::* button;
+  ImageButton MainFormControls::*button;
   const char* normal;
   const char* pressed;
   const char* disabled;
@@ -39,23 +40,25 @@ inline constexpr ImageButtonState LocalButtonState{&MainFormControls::LocalButto
                                                    "locald.gif"};
 inline constexpr ImageButtonState NationalButtonState{&MainFormControls::NationalButton, "national.gif",
                                                       "nationalr.gif", "nationald.gif"};
-inline constexpr ImageButtonState AreaZoomButtonState{&MainFormControls::AreaZoomButton, "zmarea.gif", "zmarear.gif",
-                                                      "zmaread.gif"};
-inline constexpr ImageButtonState ZoomInButtonState{&MainFormControls::ZoomInButton, "zoomin.gif", "zoominr.gif",
-                                                    "zoomind.gif"};
-inline constexpr ImageButtonState ZoomOutButtonState{&MainFormControls::ZoomOutButton, "zoomout.gif", "zoomoutr.gif",
-                                                     "zoomoutd.gif"};
+inline constexpr ImageButtonState AreaZoomButtonState{&MainFormControls::AreaZoomButton, "zmarea.gif",
+                                                      "zmarear.gif", "zmaread.gif"};
+inline constexpr ImageButtonState ZoomInButtonState{&MainFormControls::ZoomInButton, "zoomin.gif",
+                                                    "zoominr.gif", "zoomind.gif"};
+inline constexpr ImageButtonState ZoomOutButtonState{&MainFormControls::ZoomOutButton, "zoomout.gif",
+                                                     "zoomoutr.gif", "zoomoutd.gif"};
 inline constexpr ImageButtonState ResetButtonState{&MainFormControls::ResetButton, "reset.gif", "resetr.gif",
                                                    "resetd.gif"};
-inline constexpr ImageButtonState LegendButtonState{&MainFormControls::LegendButton, "legend.gif", "legendr.gif", ""};
+inline constexpr ImageButtonState LegendButtonState{&MainFormControls::LegendButton, "legend.gif",
+                                                    "legendr.gif", ""};
 // The severe buttons have no pressed picture; the alerts light them.
-inline constexpr ImageButtonState PersonalButtonState{&MainFormControls::PersonalAlertButton, "personal.gif", "",
-                                                      "personald.gif"};
+inline constexpr ImageButtonState PersonalButtonState{&MainFormControls::PersonalAlertButton, "personal.gif",
+                                                      "", "personald.gif"};
 inline constexpr ImageButtonState TornadoButtonState{&MainFormControls::TornadoButton, "tornado.gif", "",
                                                      "tornadod.gif"};
-inline constexpr ImageButtonState ThunderstormButtonState{&MainFormControls::ThunderstormButton, "tstorm.gif", "",
-                                                          "tstormd.gif"};
-inline constexpr ImageButtonState FloodButtonState{&MainFormControls::FloodButton, "flood.gif", "", "floodd.gif"};
+inline constexpr ImageButtonState ThunderstormButtonState{&MainFormControls::ThunderstormButton, "tstorm.gif",
+                                                          "", "tstormd.gif"};
+inline constexpr ImageButtonState FloodButtonState{&MainFormControls::FloodButton, "flood.gif", "",
+                                                   "floodd.gif"};
 
 // Makes the severe buttons and their labels visible.
 void ShowSevereButtons();

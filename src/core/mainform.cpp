@@ -41,7 +41,8 @@ StartState Start;
 namespace {
 
 constexpr const char* kBlankPage =
-    "<html><body bgcolor='000000' topmargin='0' leftmargin='0' marginheight='0' marginwidth='0'></body></html>";
+    "<html><body bgcolor='000000' topmargin='0' leftmargin='0' marginheight='0' "
+    "marginwidth='0'></body></html>";
 constexpr int kTickerHeight = 525;
 
 void ShapeWindow() {
@@ -57,10 +58,10 @@ void SelectStoredLocation() {
 }
 
 struct StartStep {
-  const char* status;                   // nullptr: no change of text
-  std::vector<void (*)()> work;         // each call under its own guard
-  int value_after;                      // of the progress bar; 0: no change
-  void (*own_statement)() = nullptr;    // not guarded: its error ends the start
+  const char* status;                 // nullptr: no change of text
+  std::vector<void (*)()> work;       // each call under its own guard
+  int value_after;                    // of the progress bar; 0: no change
+  void (*own_statement)() = nullptr;  // not guarded: its error ends the start
 };
 
 const std::vector<StartStep>& StartSteps() {

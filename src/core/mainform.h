@@ -3,7 +3,8 @@
 
 namespace skyloft {
 
-// Whether start-up is over: "True" then, and "" before. The product browser uses the same text for its map view.
+// Whether start-up is over: "True" then, and "" before. The product browser uses the same text for its map
+// view.
 struct StartState {
   const char* LocalView = "";
   int WorkAreaTopSaved = 0, WorkAreaHeightSaved = 0;  // twips, when the ticker was placed
@@ -16,8 +17,9 @@ void SetInstallPath();
 // Attaches every control to its procedure.
 void ConnectForms();
 
-// The whole start, from the host table to the running timers. An error of its own statements, such as a stored location
-// that the list cannot select, deletes sklt.dat and ends the process; a step that fails ends only itself.
+// The whole start, from the host table to the running timers. An error of its own statements, such as a
+// stored location that the list cannot select, deletes sklt.dat and ends the process; a step that fails ends
+// only itself.
 void LoadMainForm();
 
 // Puts the ticker bar at its edge of the work area and remembers that area.

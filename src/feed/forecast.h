@@ -12,13 +12,13 @@ inline constexpr int kForecastDays = 25;
 
 // One hour; texts as received.
 struct ForecastHourFields {
-  std::string Ut, Lt;      // valid time, GMT and local to the location
-  std::string Desc, Ic;    // sky phrase; icon, a whole path
-  std::string Tf, Df;      // temperature, dew point, degrees Fahrenheit
-  std::string Rh;          // percent
-  std::string Wd, Ws;      // compass text; miles per hour
-  std::string At;          // apparent temperature, degrees Fahrenheit
-  std::string Rn, Sn;      // rain and snow, inches
+  std::string Ut, Lt;    // valid time, GMT and local to the location
+  std::string Desc, Ic;  // sky phrase; icon, a whole path
+  std::string Tf, Df;    // temperature, dew point, degrees Fahrenheit
+  std::string Rh;        // percent
+  std::string Wd, Ws;    // compass text; miles per hour
+  std::string At;        // apparent temperature, degrees Fahrenheit
+  std::string Rn, Sn;    // rain and snow, inches
 };
 // One half day; texts as received. Nothing fills Lt.
 struct ForecastDayFields {

@@ -26,7 +26,8 @@ void EndUnreachable() {
   EndProcess();
 }
 
-// Fetches the installer and starts it, whether the download worked or not; the cached data goes in either case.
+// Fetches the installer and starts it, whether the download worked or not; the cached data goes in either
+// case.
 void InstallUpdate(int mode, const std::string& server_version) {
   const std::string installer = Settings.InstallPath + "\\temp\\skltupdate.exe";
   if (mode == 1) {

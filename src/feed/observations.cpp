@@ -43,10 +43,11 @@ enum class Reading { Odd, Plain, Dropped, Icon, Wind };
 struct FieldRow {
   const char* tag;
   Reading reading;
-  ObservationTables::Cells ObservationTables::* cells;
+  ObservationTables::Cells ObservationTables::*cells;
 };
 
-// In reading order. SkyID is read like the others and then dropped: the sky that is shown comes from Desc and Ic.
+// In reading order. SkyID is read like the others and then dropped: the sky that is shown comes from Desc and
+// Ic.
 const FieldRow kFields[] = {
     {"City", Reading::Odd, &ObservationTables::City},
     {"State", Reading::Odd, &ObservationTables::State},
@@ -142,8 +143,8 @@ void GetCurrentConditionsRT(const std::string& longitude, const std::string& lat
       for (const auto& [tag, field] : tags) ReadXmlValue(reply, tag, *field, count);
       int code = 0;
       int found = 0;
-      SkyCondition(0, 0, kSkyRows - 1, static_cast<int>(RoundHalfEven(LenientNumber(out.SkyID))), "", "", code,
-                   out.Desc, out.Ic, found);
+      SkyCondition(0, 0, kSkyRows - 1, static_cast<int>(RoundHalfEven(LenientNumber(out.SkyID))), "", "",
+                   code, out.Desc, out.Ic, found);
     });
   });
 }

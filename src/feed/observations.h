@@ -13,16 +13,16 @@ struct ObservationTables {
   Cells ObsStamp;        // Obs_TS_UTC of the reading held, GMT; "" until the first reading
   Cells ObsStampServer;  // Obs_TS_UTC that the last meta query told
   Cells City, State;
-  Cells Lt;    // time of the reading, local to the location
-  Cells Desc;  // weather in words
-  Cells Ic;    // icon, a whole path
-  Cells Tf, Df, At;  // temperature, dew point, apparent temperature; degrees Fahrenheit
-  Cells Rh;          // relative humidity, percent
-  Cells Ws;          // wind speed, miles per hour
-  Cells Unfilled;    // has a line in the saved file, and nothing fills it
-  Cells Wd;          // compass text of three characters
-  Cells Vi;          // visibility, miles
-  Cells Slp;         // pressure, inches
+  Cells Lt;            // time of the reading, local to the location
+  Cells Desc;          // weather in words
+  Cells Ic;            // icon, a whole path
+  Cells Tf, Df, At;    // temperature, dew point, apparent temperature; degrees Fahrenheit
+  Cells Rh;            // relative humidity, percent
+  Cells Ws;            // wind speed, miles per hour
+  Cells Unfilled;      // has a line in the saved file, and nothing fills it
+  Cells Wd;            // compass text of three characters
+  Cells Vi;            // visibility, miles
+  Cells Slp;           // pressure, inches
   Cells Avg_H, Avg_L;  // normal high and low of the day, degrees Fahrenheit
 };
 extern ObservationTables ObservationRecord;
@@ -35,8 +35,8 @@ extern ObservationState Observations;
 // Asks for the stamps of all locations and of the model run. A failure leaves all stamps as they are.
 void GetMetaData();
 
-// Fetches the locations whose stamp differs from the one held; sends nothing when there is none. A reply with too
-// few elements stops at the first missing one, and the slots before it are updated.
+// Fetches the locations whose stamp differs from the one held; sends nothing when there is none. A reply with
+// too few elements stops at the first missing one, and the slots before it are updated.
 void GetCurrentData();
 
 // Current conditions at a position. No caller yet.

@@ -1,5 +1,5 @@
-// The thin procedures through which everything comes from the servers. A busy control refuses a second call, nothing
-// is queued and nothing tried again; on any failure the out text and the file stay as they were.
+// The thin procedures through which everything comes from the servers. A busy control refuses a second call,
+// nothing is queued and nothing tried again; on any failure the out text and the file stay as they were.
 #pragma once
 
 #include <functional>
@@ -19,8 +19,9 @@ extern TransportState Transport;
 void GetData(const std::string& url, std::string& text);
 void GetImage(const std::string& url, const std::string& path);
 void GetRadar(const std::string& url, const std::string& path);
-// As GetData, for the host table. It first reads AutoConnect from the key of the settings, where nothing writes it, not
-// from that of the options: so each call sets it to "1" until the options are next loaded. This is meant.
+// As GetData, for the host table. It first reads AutoConnect from the key of the settings, where nothing
+// writes it, not from that of the options: so each call sets it to "1" until the options are next loaded.
+// This is meant.
 void GetXML(const std::string& url, std::string& text);
 
 // Dials as AutoConnect tells.

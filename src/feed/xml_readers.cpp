@@ -55,8 +55,8 @@ void ReadXmlList(const XmlDocument& document, std::string_view tag, TextList& li
   });
 }
 
-void ReadXmlOddList(const XmlDocument& document, std::string_view tag, TextList& list, int locations, int& count,
-                    int& items) {
+void ReadXmlOddList(const XmlDocument& document, std::string_view tag, TextList& list, int locations,
+                    int& count, int& items) {
   Guarded([&] {
     count = document.Count(tag) - 1;
     items = ItemsPerLocation(count, locations);
@@ -64,18 +64,18 @@ void ReadXmlOddList(const XmlDocument& document, std::string_view tag, TextList&
   });
 }
 
-void ReadXmlGrid(const XmlDocument& document, std::string_view tag, QueryGrid& grid, int locations, int& count,
-                 int& items) {
+void ReadXmlGrid(const XmlDocument& document, std::string_view tag, QueryGrid& grid, int locations,
+                 int& count, int& items) {
   ReadGrid(document, tag, grid, locations, count, items, [](std::string text) { return text; });
 }
 
-void ReadXmlIconGrid(const XmlDocument& document, std::string_view tag, QueryGrid& grid, int locations, int& count,
-                     int& items) {
+void ReadXmlIconGrid(const XmlDocument& document, std::string_view tag, QueryGrid& grid, int locations,
+                     int& count, int& items) {
   ReadGrid(document, tag, grid, locations, count, items, IconPath);
 }
 
-void ReadXmlWindGrid(const XmlDocument& document, std::string_view tag, QueryGrid& grid, int locations, int& count,
-                     int& items) {
+void ReadXmlWindGrid(const XmlDocument& document, std::string_view tag, QueryGrid& grid, int locations,
+                     int& count, int& items) {
   ReadGrid(document, tag, grid, locations, count, items,
            [](const std::string& text) { return GetWindDirection(LenientNumber(text)); });
 }

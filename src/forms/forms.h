@@ -14,8 +14,8 @@ inline constexpr int kTwipsPerPixel = 15;
 
 const std::vector<Form*>& AllForms();
 
-// The control by its outside name, "MainForm.Thumbnail", "MainForm.SysTray[1]", or a form by its own; nullptr when
-// there is none.
+// The control by its outside name, "MainForm.Thumbnail", "MainForm.SysTray[1]", or a form by its own; nullptr
+// when there is none.
 Control* FindControl(std::string_view name);
 
 // Puts every form and control at its place of the skin.

@@ -6,7 +6,18 @@
 namespace skyloft {
 
 struct MainFormControls : Form {
-  MainFormControls() : Form("MainForm", "Skyloft") {}
+  MainFormControls() : Form("MainForm", "Skyloft") {
+    SevereWeatherLabel.Caption = "Severe Weather";
+    PersonalLabel.Caption = "Personal Alerts";
+    TimeLabel.Caption = "Time";
+    Channel.Locked = true;
+    for (Control* hidden :
+         {static_cast<Control*>(&Display2), static_cast<Control*>(&Legend), static_cast<Control*>(&Sponsor0),
+          static_cast<Control*>(&Sponsor1), static_cast<Control*>(&Sponsor2)}) {
+      hidden->Visible = false;
+    }
+    for (int i = 0; i < ImagePoints.Size(); ++i) ImagePoints[i].Visible = false;
+  }
 
   // Left column.
   Label LocationLabel{this, "LocationLabel"};

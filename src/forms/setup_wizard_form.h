@@ -10,7 +10,8 @@ struct SetupWizardFormControls : Form {
     Heading.Caption = "Welcome to the Skyloft Setup Wizard!";
     Introduction.Caption =
         "Before you can experience the ultimate personal weather software, you must answer a few basic "
-        "questions. This wizard will guide you through the setup procedure and help you customize Skyloft to fit "
+        "questions. This wizard will guide you through the setup procedure and help you customize Skyloft to "
+        "fit "
         "your weather needs!";
     CancelButton.Caption = "Cancel";
     NextButton.Caption = "Next";

@@ -133,7 +133,8 @@ void ApplySkin() {
       continue;
     }
     // A control array: its members lie on one another.
-    for (int i = 0; Control* member = FindControl(std::string(row.control) + "[" + std::to_string(i) + "]"); ++i) {
+    for (int i = 0; Control* member = FindControl(std::string(row.control) + "[" + std::to_string(i) + "]");
+         ++i) {
       Place(*member, row);
     }
   }

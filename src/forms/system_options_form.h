@@ -27,6 +27,7 @@ struct SystemOptionsFormControls : Form {
     NWSLabel.Caption = "Severe Weather Warnings:";
     AutoConnect.Caption = "Automatically connect to the internet";
     OKButton.Caption = "OK";
+    SponsorBanner.Visible = false;
     FillMinutes(NWSIndexMax, 2, 10, 1);
     FillMinutes(CurrentConditionsIndexMax, 5, 60, 5);
     FillMinutes(ForecastIndexMax, 5, 60, 5);

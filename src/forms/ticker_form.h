@@ -6,7 +6,7 @@
 namespace skyloft {
 
 struct TickerFormControls : Form {
-  TickerFormControls() : Form("TickerForm", "Skyloft Ticker") {}
+  TickerFormControls() : Form("TickerForm", "Skyloft Ticker") { Sponsor4.Visible = false; }
 
   HtmlDisplay Sponsor4{this, "Sponsor4"};
   HtmlDisplay Ticker{this, "Ticker"};

@@ -59,12 +59,12 @@ std::string BuildCurrentConditionsPage() {
              "            <P align=center><FONT color=#ffffff><IMG height=30",
              "            src='file:" + reading.Ic[slot] + "' width=40 align=absMiddle border=0>  <B>" +
                  reading.Desc[slot],
-             "            <BR>Temperature</B>: " + reading.Tf[slot] + " F<B><BR>Dewpoint</B>: " + reading.Df[slot] +
-                 " F<B><BR>Feels",
+             "            <BR>Temperature</B>: " + reading.Tf[slot] +
+                 " F<B><BR>Dewpoint</B>: " + reading.Df[slot] + " F<B><BR>Feels",
              "            Like</B>: " + reading.At[slot] + " F<B><BR>Humidity</B>: " + reading.Rh[slot] +
                  " %<B><BR>Wind</B>: " + reading.Wd[slot] + " " + reading.Ws[slot] + " mph",
-             "            <BR><B>Pressure</B>: " + reading.Slp[slot] + " in<BR><B>Visibility</B>: " +
-                 reading.Vi[slot] + " mi",
+             "            <BR><B>Pressure</B>: " + reading.Slp[slot] +
+                 " in<BR><B>Visibility</B>: " + reading.Vi[slot] + " mi",
          }) +
          PageFoot();
 }

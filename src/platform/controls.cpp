@@ -58,9 +58,9 @@ void Control::Describe(PropertyList& out) const {
   }
 }
 
-Form::Form(std::string name, std::string caption) : Control(nullptr, std::move(name)) {
+Form::Form(std::string name, const std::string& caption) : Control(nullptr, std::move(name)) {
   Visible = false;
-  Caption = std::move(caption);
+  Caption = caption;
 }
 
 void Form::Describe(PropertyList& out) const {
@@ -87,9 +87,9 @@ void TextBox::Describe(PropertyList& out) const {
   out.emplace_back("value", Text.Get());
 }
 
-void TextBox::Enter(std::string text) {
+void TextBox::Enter(const std::string& text) {
   if (!Enabled || Locked) return;
-  Text = std::move(text);
+  Text = text;
   Fire(Change);
 }
 
@@ -259,12 +259,13 @@ void FileList::Describe(PropertyList& out) const {
   out.emplace_back("items", Files);
 }
 
-MenuItem::MenuItem(Form* form, std::string name, std::string caption, Control* container)
+MenuItem::MenuItem(Form* form, std::string name, const std::string& caption, Control* container)
     : Control(form, std::move(name), container) {
-  Caption = std::move(caption);
+  Caption = caption;
 }
 
-MenuItem::MenuItem(Form* form, std::string name, Control* container) : Control(form, std::move(name), container) {
+MenuItem::MenuItem(Form* form, std::string name, Control* container)
+    : Control(form, std::move(name), container) {
   Visible = false;
 }
 

@@ -28,8 +28,8 @@ struct MousePress {
 };
 using MouseEvent = std::function<void(const MousePress&)>;
 
-// The one way from a user's act, a timer or a notice of the platform into the program: guarded, so that no failure
-// leaves it.
+// The one way from a user's act, a timer or a notice of the platform into the program: guarded, so that no
+// failure leaves it.
 template <class Act>
 void Raise(Act&& act) {
   Guarded(std::forward<Act>(act));
@@ -69,9 +69,9 @@ class Control {
     explicit Property(Control* owner, T value = {}) : owner_(owner), value_(std::move(value)) {}
     Property(const Property&) = delete;
     Property& operator=(const Property& other) { return *this = other.value_; }
-    Property& operator=(T value) {
+    Property& operator=(const T& value) {
       if (value == value_) return *this;
-      value_ = std::move(value);
+      value_ = value;
       owner_->MarkDirty();
       return *this;
     }
@@ -126,7 +126,7 @@ class ControlArray {
 // A window. It starts hidden.
 class Form : public Control {
  public:
-  Form(std::string name, std::string caption);
+  Form(std::string name, const std::string& caption);
   Form& operator=(const Form& other) = default;
   const std::vector<Control*>& Controls() const { return controls_.list; }
   std::string_view Type() const override { return "Form"; }
@@ -135,7 +135,7 @@ class Form : public Control {
 
   Property<std::string> Caption{this};
   Property<bool> TopMost{this};
-  Event Unload;       // a request to close the window; it stays unless the handler hides it
+  Event Unload;  // a request to close the window; it stays unless the handler hides it
   Event LostFocus;
   MouseEvent MouseDown;  // on the body of the form
 
@@ -167,7 +167,7 @@ class TextBox : public Control {
   std::string_view Type() const override { return "TextBox"; }
   void Describe(PropertyList& out) const override;
   void Accept(ControlVisitor& visitor) override;
-  void Enter(std::string text);  // act: replaces the whole text
+  void Enter(const std::string& text);  // act: replaces the whole text
   Property<std::string> Text{this};
   Property<bool> Locked{this};  // for showing only
   Event Change;
@@ -204,8 +204,8 @@ class OptionButton : public CheckBox {
   void Accept(ControlVisitor& visitor) override;
 };
 
-// A list with one selected entry. Filling and clearing raise nothing; an index set, by the user or by the program,
-// raises Click, also when it is unchanged.
+// A list with one selected entry. Filling and clearing raise nothing; an index set, by the user or by the
+// program, raises Click, also when it is unchanged.
 class ListControl : public Control {
  public:
   using Control::Control;
@@ -217,7 +217,8 @@ class ListControl : public Control {
   int ListIndex() const { return index_; }  // -1 when nothing is selected
   std::string Text() const;                 // the selected entry, "" when nothing is selected
   void AddItem(std::string text);
-  void RemoveItem(int index);  // raises an error outside the list; an entry removed before the selected one shifts it
+  void RemoveItem(
+      int index);  // raises an error outside the list; an entry removed before the selected one shifts it
   void Clear();
   void Select(int index);  // -1 to Count() - 1, else a run-time error
   Event Click;
@@ -234,7 +235,7 @@ class Picture : public Control {
   std::string_view Type() const override { return "Picture"; }
   void Describe(PropertyList& out) const override;
   void Accept(ControlVisitor& visitor) override;
-  void Press();                     // act
+  void Press();                       // act
   void SetPicture(std::string path);  // shows the file as it is now, also when the path is unchanged
   const std::string& PicturePath() const { return picture_; }
   Event Click;
@@ -381,7 +382,7 @@ class FileList : public Control {
 // An entry of a pop-up menu. `container` of the constructor is the entry whose submenu it stands in.
 class MenuItem : public Control {
  public:
-  MenuItem(Form* form, std::string name, std::string caption, Control* container);
+  MenuItem(Form* form, std::string name, const std::string& caption, Control* container);
   // For a member of an array: it starts hidden and without a caption.
   MenuItem(Form* form, std::string name, Control* container);
   std::string_view Type() const override { return "MenuItem"; }

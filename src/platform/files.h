@@ -1,6 +1,7 @@
-// Files by the program's own paths, such as "C:\program files\skyloft\sklt.dat". Drive C: is the program's root
-// folder on this computer; a path that leaves it is refused, whatever its text. Names match without regard to case.
-// The folders icons, backgrounds, legends and wav are looked up there and then among the installed files.
+// Files by the program's own paths, such as "C:\program files\skyloft\sklt.dat". Drive C: is the program's
+// root folder on this computer; a path that leaves it is refused, whatever its text. Names match without
+// regard to case. The folders icons, backgrounds, legends and wav are looked up there and then among the
+// installed files.
 #pragma once
 
 #include <string>

@@ -28,16 +28,17 @@ struct RowGroup {
 const std::vector<RowGroup>& RowGroups() {
   static const std::vector<RowGroup> groups = {
       {0,
-       {"ZipCode", "City", "State", "County", "AreaCode", "TimeZone", "Latitude", "Longitude", "Title", "StateLong",
-        "Dst", "NWSForecastOffice", "NEXRADLocation", "NEXRADLatitude", "NEXRADLongitude", "NEXRADServer"}},
+       {"ZipCode", "City", "State", "County", "AreaCode", "TimeZone", "Latitude", "Longitude", "Title",
+        "StateLong", "Dst", "NWSForecastOffice", "NEXRADLocation", "NEXRADLatitude", "NEXRADLongitude",
+        "NEXRADServer"}},
       {20,
        {"BlizzardWarning", "WinterStormWarning", "FreezeWarning", "FrostWarning", "WindChillWarning",
         "WindChillAdvisory", "WinterStormWatch", "WinterWeatherAdvisory"}},
-      {30, {"TornadoWarning",     "SevereThunderstormWarning", "HurricaneWarning",  "TropicalStormWarning",
-            "InlandHurricaneWindWarning", "HighWindWarning",   "GaleWarning",       "StormWarning",
-            "TornadoWatch",       "SevereThunderstormWatch",   "HurricaneWatch",    "InlandHurricaneWindWatch",
-            "TropicalStormWatch", "HighWindWatch",             "WindAdvisory",      "DenseFogAdvisory",
-            "SmallCraftAdvisory"}},
+      {30,
+       {"TornadoWarning", "SevereThunderstormWarning", "HurricaneWarning", "TropicalStormWarning",
+        "InlandHurricaneWindWarning", "HighWindWarning", "GaleWarning", "StormWarning", "TornadoWatch",
+        "SevereThunderstormWatch", "HurricaneWatch", "InlandHurricaneWindWatch", "TropicalStormWatch",
+        "HighWindWatch", "WindAdvisory", "DenseFogAdvisory", "SmallCraftAdvisory"}},
       {50,
        {"FlashFloodWarning", "FloodWarning", "CoastalFloodWarning", "RiverFloodWarning", "FlashFloodWatch",
         "FloodWatch", "CoastalFloodWatch", "RiverFloodWatch"}},
@@ -47,8 +48,9 @@ const std::vector<RowGroup>& RowGroups() {
         "MinimumTemperatureThreshold", "HeatIndex", "HeatIndexThreshold", "WindChill", "WindChillThreshold",
         "WindSpeed", "WindSpeedThreshold"}},
       {80,
-       {"HeavyRain", "ModerateRain", "LightRain", "RainShower", "Thunderstorm", "ThunderstormChance", "FreezingRain",
-        "FreezingRainSnow", "RainSnow", "HeavySnow", "ModerateSnow", "LightSnow", "SnowShower"}},
+       {"HeavyRain", "ModerateRain", "LightRain", "RainShower", "Thunderstorm", "ThunderstormChance",
+        "FreezingRain", "FreezingRainSnow", "RainSnow", "HeavySnow", "ModerateSnow", "LightSnow",
+        "SnowShower"}},
       {100, {"NWSAlertMessage", "NWSAlertAudio", "NWSAlertVoice", "NWSAlertEmail"}},
       {105, {"SKLTAlertMessage", "SKLTAlertAudio", "SKLTAlertVoice", "SKLTAlertEmail"}},
   };
@@ -64,24 +66,26 @@ using ObservationCells = ObservationTables::Cells ObservationTables::*;
 
 // The observation's sixteen lines of sklt.dat.
 constexpr ObservationCells kObservationLines[] = {
-    &ObservationTables::ObsStamp, &ObservationTables::ObsStampServer, &ObservationTables::City,
-    &ObservationTables::State,    &ObservationTables::Lt,             &ObservationTables::Desc,
-    &ObservationTables::Ic,       &ObservationTables::Tf,             &ObservationTables::Df,
-    &ObservationTables::At,       &ObservationTables::Rh,             &ObservationTables::Ws,
-    &ObservationTables::Unfilled, &ObservationTables::Wd,             &ObservationTables::Vi,
-    &ObservationTables::Slp,
+    &ObservationTables::ObsStamp, &ObservationTables::ObsStampServer,
+    &ObservationTables::City,     &ObservationTables::State,
+    &ObservationTables::Lt,       &ObservationTables::Desc,
+    &ObservationTables::Ic,       &ObservationTables::Tf,
+    &ObservationTables::Df,       &ObservationTables::At,
+    &ObservationTables::Rh,       &ObservationTables::Ws,
+    &ObservationTables::Unfilled, &ObservationTables::Wd,
+    &ObservationTables::Vi,       &ObservationTables::Slp,
 };
 
 // What a delete moves with the location: the lines above but for Slp.
 constexpr size_t kMovedObservations = std::size(kObservationLines) - 1;
 
-constexpr std::string ForecastHourFields::* kHourLines[] = {
+constexpr std::string ForecastHourFields::*kHourLines[] = {
     &ForecastHourFields::Ut, &ForecastHourFields::Lt, &ForecastHourFields::Desc, &ForecastHourFields::Ic,
     &ForecastHourFields::Tf, &ForecastHourFields::Df, &ForecastHourFields::Rh,   &ForecastHourFields::Wd,
     &ForecastHourFields::Ws, &ForecastHourFields::At, &ForecastHourFields::Rn,   &ForecastHourFields::Sn,
 };
 
-constexpr std::string ForecastDayFields::* kDayLines[] = {
+constexpr std::string ForecastDayFields::*kDayLines[] = {
     &ForecastDayFields::Ut, &ForecastDayFields::Lt, &ForecastDayFields::Desc, &ForecastDayFields::Ic,
     &ForecastDayFields::Th, &ForecastDayFields::Tl, &ForecastDayFields::Rn,   &ForecastDayFields::Sn,
     &ForecastDayFields::Wd, &ForecastDayFields::Ws,
@@ -153,7 +157,8 @@ void CopySlot(int from, int to) {
 void ClearSlot(int slot) {
   for (auto& row : LocationProfile) row[slot].clear();
   for (size_t i = 0; i < kMovedObservations; ++i) (ObservationRecord.*kObservationLines[i])[slot].clear();
-  for (auto* table : {&Almanac.Sunrise, &Almanac.Sunset, &Almanac.Moonrise, &Almanac.Moonset}) (*table)[slot].clear();
+  for (auto* table : {&Almanac.Sunrise, &Almanac.Sunset, &Almanac.Moonrise, &Almanac.Moonset})
+    (*table)[slot].clear();
   ForecastHour[slot] = {};
   ForecastDay[slot] = {};
 }

@@ -1,5 +1,5 @@
-// The user's locations: where each is and what the user wants to be told of it (the profile, in the store), and the
-// last data received for it (sklt.dat). Locations are indexes 0 to LocationIndexMax, without a gap.
+// The user's locations: where each is and what the user wants to be told of it (the profile, in the store),
+// and the last data received for it (sklt.dat). Locations are indexes 0 to LocationIndexMax, without a gap.
 #pragma once
 
 #include <string>
@@ -11,8 +11,8 @@ namespace skyloft {
 inline constexpr int kLocationSlots = 5;
 inline constexpr int kProfileRows = 111;
 
-// Text cells by row and slot: LocationProfile[ProfileRow::City][0]. Rows without a name exist, are copied, and hold
-// nothing.
+// Text cells by row and slot: LocationProfile[ProfileRow::City][0]. Rows without a name exist, are copied,
+// and hold nothing.
 extern Grid<std::string, kProfileRows, kLocationSlots> LocationProfile;
 
 namespace ProfileRow {
@@ -40,17 +40,19 @@ enum : int {
 extern Table<std::string, 67> FrameUrl;
 
 // Both loop over the slots in use. Row 56 is saved as CoastalFloodWatch and row 57 as RiverFloodWatch, but
-// RiverFloodWatch is loaded into row 56 and row 57 never: the store drifts at each pair of load and save. This is meant.
+// RiverFloodWatch is loaded into row 56 and row 57 never: the store drifts at each pair of load and save.
+// This is meant.
 void SaveLocationProfiles();
 void LoadLocationProfiles();
 
-// sklt.dat: one value a line, CR LF, no header; (LocationIndexMax + 1) * 1143 lines. A load that fails (the file is
-// missing or short) clears the stamps, so that everything is fetched again, and deletes the file; the cells read stay.
+// sklt.dat: one value a line, CR LF, no header; (LocationIndexMax + 1) * 1143 lines. A load that fails (the
+// file is missing or short) clears the stamps, so that everything is fetched again, and deletes the file; the
+// cells read stay.
 void SaveLocationData();
 void LoadLocationData();
 
-// Takes a location out: the slots behind it move up and slot `max_index` is cleared. Slp, Avg_H and Avg_L stay with
-// their slot, which is meant.
+// Takes a location out: the slots behind it move up and slot `max_index` is cleared. Slp, Avg_H and Avg_L
+// stay with their slot, which is meant.
 void RemoveLocationEntry(int index, int max_index);
 
 }  // namespace skyloft

@@ -71,8 +71,8 @@ std::uint32_t RegistryRoot(const std::string& root) {
   return exists ? kProfileFile : kNoRoot;
 }
 
-int RegistryGet(const std::string& root, const std::string& key, const std::string& name, const std::string& type,
-                const RegistryValue& fallback, RegistryValue& result) {
+int RegistryGet(const std::string& root, const std::string& key, const std::string& name,
+                const std::string& type, const RegistryValue& fallback, RegistryValue& result) {
   int status = kNothingAttempted;
   result = fallback;
   Guarded([&] {
@@ -94,8 +94,8 @@ int RegistryGet(const std::string& root, const std::string& key, const std::stri
   return status;
 }
 
-int RegistryPut(const std::string& root, const std::string& key, const std::string& name, const std::string& type,
-                const RegistryValue& value) {
+int RegistryPut(const std::string& root, const std::string& key, const std::string& name,
+                const std::string& type, const RegistryValue& value) {
   int status = kNothingAttempted;
   Guarded([&] {
     const std::uint32_t handle = RegistryRoot(root);

@@ -1,5 +1,6 @@
-// The one access path to stored values: one value at a time by root, key and name. A profile file stands in for the
-// store where its path is given as the root. Also the procedures that run all the stores in their order.
+// The one access path to stored values: one value at a time by root, key and name. A profile file stands in
+// for the store where its path is given as the root. Also the procedures that run all the stores in their
+// order.
 #pragma once
 
 #include <cstdint>
@@ -15,22 +16,23 @@ inline constexpr int kNothingAttempted = 99;
 // 0x80000000 to 0x80000006 for "HKCU" and its like in any case, 1 for the path of an existing file, else 0.
 std::uint32_t RegistryRoot(const std::string& root);
 
-// Reads a value; type "S" a text, "B" a flag, "D" a whole number, in any case. `result` is the default on any failure;
-// the status is 0, kNothingAttempted or the platform's. A value that exists as "" yields "". A failed query leaves the
-// key open, which is meant. In a profile file only "S" reads, at most 255 characters; other types yield the default.
-int RegistryGet(const std::string& root, const std::string& key, const std::string& name, const std::string& type,
-                const RegistryValue& fallback, RegistryValue& result);
+// Reads a value; type "S" a text, "B" a flag, "D" a whole number, in any case. `result` is the default on any
+// failure; the status is 0, kNothingAttempted or the platform's. A value that exists as "" yields "". A
+// failed query leaves the key open, which is meant. In a profile file only "S" reads, at most 255 characters;
+// other types yield the default.
+int RegistryGet(const std::string& root, const std::string& key, const std::string& name,
+                const std::string& type, const RegistryValue& fallback, RegistryValue& result);
 
 // Writes a value and makes its key. In a profile file only "S" writes.
-int RegistryPut(const std::string& root, const std::string& key, const std::string& name, const std::string& type,
-                const RegistryValue& value);
+int RegistryPut(const std::string& root, const std::string& key, const std::string& name,
+                const std::string& type, const RegistryValue& value);
 
 // A text of the user's branch; the default on any failure.
 std::string ReadSetting(const std::string& key, const std::string& name, const std::string& fallback);
 void WriteSetting(const std::string& key, const std::string& name, const std::string& text);
 
-// All stores: settings, options, profiles, location data; then the lists and menus that show the locations. SaveSystem
-// sets all five menu entries by their title; LoadSystem only those in use.
+// All stores: settings, options, profiles, location data; then the lists and menus that show the locations.
+// SaveSystem sets all five menu entries by their title; LoadSystem only those in use.
 void SaveSystem();
 void LoadSystem();
 

@@ -21,7 +21,9 @@ int IndexOf(const std::string& text, const char* name) {
   return static_cast<int>(RoundHalfEven(LenientNumber(text)));
 }
 
-std::string NumberOrEmpty(const std::string& text) { return text.empty() ? "" : NumberText(LenientNumber(text)); }
+std::string NumberOrEmpty(const std::string& text) {
+  return text.empty() ? "" : NumberText(LenientNumber(text));
+}
 
 void PlaceWindow(const std::string& top, const std::string& left) {
   if (!top.empty() && !left.empty()) {
@@ -46,7 +48,7 @@ void Save(const char* name, const std::string& text) { WriteSetting(kSettingsKey
 struct CheckRow {
   const char* name;
   const char* fallback;
-  CheckBox SystemOptionsFormControls::* box;
+  CheckBox SystemOptionsFormControls::*box;
 };
 const CheckRow kCheckBoxes[] = {
     {"EmailOption", "1", &SystemOptionsFormControls::EmailOptionValue},
@@ -65,7 +67,7 @@ struct ListRow {
   const char* name;
   const char* fallback;
   const char* repaired;
-  ListControl SystemOptionsFormControls::* list;
+  ListControl SystemOptionsFormControls::*list;
 };
 const ListRow kLists[] = {
     {"NWSUpdate", "3", "3", &SystemOptionsFormControls::NWSIndexMax},
@@ -128,7 +130,8 @@ void LoadOptions() {
     const std::string address = read("EmailAddress", "");
     std::string checks[std::size(kCheckBoxes)];
     std::string lists[std::size(kLists)];
-    for (size_t i = 0; i < std::size(kCheckBoxes); ++i) checks[i] = read(kCheckBoxes[i].name, kCheckBoxes[i].fallback);
+    for (size_t i = 0; i < std::size(kCheckBoxes); ++i)
+      checks[i] = read(kCheckBoxes[i].name, kCheckBoxes[i].fallback);
     for (size_t i = 0; i < std::size(kLists); ++i) lists[i] = read(kLists[i].name, kLists[i].fallback);
     const std::string auto_connect = read("AutoConnect", "1");
     const std::string legend_flag = read("LegendFlag", "0");
@@ -150,7 +153,9 @@ void LoadOptions() {
 
 void SaveOptions() {
   Guarded([] {
-    const auto write = [](const char* name, const std::string& text) { WriteSetting(kOptionsKey, name, text); };
+    const auto write = [](const char* name, const std::string& text) {
+      WriteSetting(kOptionsKey, name, text);
+    };
     write("EmailAddress", SystemOptionsForm.Email1Value.Text);
     for (const CheckRow& row : kCheckBoxes) write(row.name, (SystemOptionsForm.*row.box).Checked ? "1" : "0");
     for (const ListRow& row : kLists) {

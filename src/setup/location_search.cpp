@@ -12,9 +12,21 @@ namespace skyloft {
 namespace {
 
 constexpr const char* kTags[] = {
-    "postal_code",       "city",       "state",       "county",     "area_code",          "gmt_offset",
-    "latitude",          "longitude",  "nws_office",  "radar_station_code", "radar_station_lat",
-    "radar_station_long", "nws_radar_server", "state_long", "dst_ind",
+    "postal_code",
+    "city",
+    "state",
+    "county",
+    "area_code",
+    "gmt_offset",
+    "latitude",
+    "longitude",
+    "nws_office",
+    "radar_station_code",
+    "radar_station_lat",
+    "radar_station_long",
+    "nws_radar_server",
+    "state_long",
+    "dst_ind",
 };
 static_assert(int{std::size(kTags)} == PlaceResults::Size());
 
@@ -38,13 +50,15 @@ constexpr struct {
 
 std::string SearchUrl() {
   const SetupWizardFormControls& wizard = SetupWizardForm;
-  const std::string place = wizard.ZipCodeOption.Checked
-                                ? "pc=" + wizard.ZipCodeInput.Text.Get()
-                                : "city=" + wizard.CityInput.Text.Get() + "&state=" + wizard.StateInput.Text();
+  const std::string place = wizard.ZipCodeOption.Checked ? "pc=" + wizard.ZipCodeInput.Text.Get()
+                                                         : "city=" + wizard.CityInput.Text.Get() +
+                                                               "&state=" + wizard.StateInput.Text();
   return HostTable.forecastserver + "location_setup.asp?" + place + "&t=xml";
 }
 
-std::string TwoDecimals(const std::string& degrees) { return NumberText(RoundHalfEven(LenientNumber(degrees), 2)); }
+std::string TwoDecimals(const std::string& degrees) {
+  return NumberText(RoundHalfEven(LenientNumber(degrees), 2));
+}
 
 void ShowResults(const PlaceResults& results) {
   SetupWizardFormControls& wizard = SetupWizardForm;

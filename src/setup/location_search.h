@@ -29,9 +29,9 @@ enum : int {
 }  // namespace PlaceEntry
 using PlaceResults = Table<std::string, 15>;
 
-// Asks for the zip code or the city and state of the wizard's search page, unescaped and untrimmed; fills `results` and
-// the captions of the wizard's page of results, and proposes the title. Returns 1 when the place was found, otherwise 0.
-// The wizard's NextButton is off meanwhile and on again in every case.
+// Asks for the zip code or the city and state of the wizard's search page, unescaped and untrimmed; fills
+// `results` and the captions of the wizard's page of results, and proposes the title. Returns 1 when the
+// place was found, otherwise 0. The wizard's NextButton is off meanwhile and on again in every case.
 int SearchLocationDatabase(PlaceResults& results);
 
 // Copies a place into the profile of a slot; coordinates at two decimals.

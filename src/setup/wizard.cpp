@@ -16,7 +16,8 @@ void CancelWizard() {
 
 void AddLocation(int index) {
   const int page = index == 0 ? 0 : 2;
-  for (int i = 0; i < SetupWizardForm.SetupFrame.Size(); ++i) SetupWizardForm.SetupFrame[i].Visible = i == page;
+  for (int i = 0; i < SetupWizardForm.SetupFrame.Size(); ++i)
+    SetupWizardForm.SetupFrame[i].Visible = i == page;
   SetupWizardForm.NextButton.Enabled = false;
   SetupWizardForm.Status.Caption = "";
   SetupWizardForm.Visible = true;

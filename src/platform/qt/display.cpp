@@ -1,0 +1,67 @@
+#include "platform/qt/display.h"
+
+#include <QAbstractEventDispatcher>
+
+#include "platform/qt/form_window.h"
+#include "platform/qt/http_qt.h"
+
+namespace skyloft {
+
+Display& Display::Get() {
+  static auto* display = new Display();  // outlives everything, as the process ends without unwinding
+  return *display;
+}
+
+void Display::Start() {
+  connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
+          [this] { ShowDirty(); });
+}
+
+void Display::ShowDirty() {
+  for (Control* control : TakeDirtyControls()) {
+    if (auto* timer = dynamic_cast<Timer*>(control)) {
+      ShowTimer(*timer);
+    } else if (auto* form = dynamic_cast<Form*>(control)) {
+      if (form->Visible || MadeWindowOf(*form)) WindowOf(*form).ShowForm();
+    } else if (FormWindow* window = MadeWindowOf(*control->Owner())) {
+      window->ShowControl(*control);
+    }
+  }
+}
+
+bool Display::Idle() const {
+  if (AnyDirtyControl() || FetchesUnderWay() > 0) return false;
+  for (const auto& [form, window] : windows_) {
+    if (!window->Idle()) return false;
+  }
+  return true;
+}
+
+FormWindow& Display::WindowOf(Form& form) {
+  auto& window = windows_[&form];
+  if (!window) window = std::make_unique<FormWindow>(form);
+  return *window;
+}
+
+FormWindow* Display::MadeWindowOf(const Form& form) const {
+  const auto found = windows_.find(&form);
+  return found == windows_.end() ? nullptr : found->second.get();
+}
+
+void Display::RunTimers(bool run) {
+  timers_run_ = run;
+  for (auto& [model, timer] : timers_) ShowTimer(*model);
+}
+
+void Display::ShowTimer(Timer& model) {
+  auto& timer = timers_[&model];
+  if (!timer) {
+    timer = std::make_unique<QTimer>();
+    connect(timer.get(), &QTimer::timeout, this, [&model] { Raise([&] { model.Elapse(); }); });
+  }
+  const bool runs = timers_run_ && model.Enabled;
+  if (!runs) timer->stop();
+  if (runs && (!timer->isActive() || timer->interval() != model.Interval)) timer->start(model.Interval);
+}
+
+}  // namespace skyloft

@@ -1,0 +1,107 @@
+#include "platform/qt/form_window.h"
+
+#include <QCloseEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+
+#include "forms/forms.h"
+#include "platform/qt/html/html_view.h"
+#include "platform/qt/skin_style.h"
+#include "platform/qt/text_qt.h"
+#include "platform/qt/view_maker.h"
+
+namespace skyloft {
+namespace {
+
+Qt::WindowFlags FlagsOf(const Form& form) {
+  if (form.Name() == "MainForm") return Qt::Window | Qt::FramelessWindowHint;
+  if (form.Name() == "TickerForm") return Qt::Tool | Qt::FramelessWindowHint;
+  if (form.Name() == "InitializingForm") return Qt::SplashScreen | Qt::FramelessWindowHint;
+  return Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint | Qt::CustomizeWindowHint;
+}
+
+QPoint PixelsOf(const Form& form) { return {form.Left / kTwipsPerPixel, form.Top / kTwipsPerPixel}; }
+
+}  // namespace
+
+FormWindow::FormWindow(Form& form) : QWidget(nullptr, FlagsOf(form)), form_(form) {
+  setObjectName(ToQt(form.Name()));
+  setFixedSize(form.Width / kTwipsPerPixel, form.Height / kTwipsPerPixel);
+  if (const std::string body = BodyPicture(form); !body.empty()) body_.load("skin:" + ToQt(body));
+  if (form.Name() == "TickerForm") setAttribute(Qt::WA_ShowWithoutActivating);
+  MakeViews(*this, form_.Controls());
+}
+
+void FormWindow::ShowForm() {
+  setWindowTitle(ToQt(form_.Caption));
+  setFixedSize(form_.Width / kTwipsPerPixel, form_.Height / kTwipsPerPixel);
+  placing_ = true;
+  const bool placed = form_.Left != 0 || form_.Top != 0 || windowFlags().testFlag(Qt::FramelessWindowHint);
+  if (placed && pos() != PixelsOf(form_)) move(PixelsOf(form_));
+  const bool top_most = windowFlags().testFlag(Qt::WindowStaysOnTopHint);
+  if (form_.TopMost != top_most) setWindowFlag(Qt::WindowStaysOnTopHint, form_.TopMost);
+  setVisible(form_.Visible);
+  placing_ = false;
+}
+
+void FormWindow::ShowControl(const Control& control) {
+  const auto view = views_.find(&control);
+  if (view != views_.end()) view->second.show();
+}
+
+void FormWindow::SetRegion(const RoundRegion& region) {
+  const QRectF outline(QPointF(region.left, region.top), QPointF(region.right, region.bottom));
+  QPainterPath path;
+  path.addRoundedRect(outline, region.corner_width / 2.0, region.corner_height / 2.0);
+  setMask(QRegion(path.toFillPolygon().toPolygon()));
+}
+
+bool FormWindow::Idle() const {
+  return std::all_of(pages_.begin(), pages_.end(), [](const HtmlView* page) { return page->Idle(); });
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  Raise([this] { Fire(form_.Unload); });
+}
+
+void FormWindow::mousePressEvent(QMouseEvent* event) {
+  const auto button = event->button() == Qt::LeftButton ? MouseButton::Left : MouseButton::Right;
+  const MousePress press{event->pos().x(), event->pos().y(), button};
+  Raise([&] { Fire(form_.MouseDown, press); });
+}
+
+// The user moved the window: the model follows, and its place is saved with the settings.
+void FormWindow::moveEvent(QMoveEvent*) {
+  if (placing_ || !isVisible()) return;
+  form_.Left = pos().x() * kTwipsPerPixel;
+  form_.Top = pos().y() * kTwipsPerPixel;
+}
+
+void FormWindow::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::ActivationChange && !isActiveWindow())
+    Raise([this] { Fire(form_.LostFocus); });
+  QWidget::changeEvent(event);
+}
+
+void FormWindow::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  if (form_.Name() == "TickerForm") painter.fillRect(rect(), Qt::black);
+  if (body_.isNull()) {
+    if (form_.Name() != "TickerForm") painter.fillRect(rect(), QColor(18, 35, 74));
+  } else {
+    painter.drawImage(0, 0, body_);
+  }
+  painter.setPen(QColor(159, 182, 230));
+  QFont small = font();
+  small.setPixelSize(11);
+  painter.setFont(small);
+  for (const FixedCaption& caption : FixedCaptions()) {
+    if (form_.Name() == caption.form) {
+      painter.drawText(caption.place, Qt::AlignLeft | Qt::AlignVCenter, caption.text);
+    }
+  }
+}
+
+}  // namespace skyloft

@@ -1,0 +1,49 @@
+// One form as a window with its controls' widgets.
+#pragma once
+
+#include <functional>
+#include <unordered_map>
+
+#include <QImage>
+#include <QWidget>
+
+#include "platform/controls.h"
+#include "platform/window.h"
+
+namespace skyloft {
+
+class HtmlView;
+
+class FormWindow : public QWidget {
+ public:
+  explicit FormWindow(Form& form);
+  // Shows the form itself, or one of its controls, as its model is now.
+  void ShowForm();
+  void ShowControl(const Control& control);
+  void SetRegion(const RoundRegion& region);
+  // Whether no page is waiting for a picture.
+  bool Idle() const;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  // A control's widget and what brings it up to its model.
+  struct View {
+    QWidget* widget;
+    std::function<void()> show;
+  };
+  friend class ViewMaker;
+
+  Form& form_;
+  QImage body_;
+  std::unordered_map<const Control*, View> views_;
+  std::vector<HtmlView*> pages_;
+  bool placing_ = false;
+};
+
+}  // namespace skyloft

@@ -1,0 +1,39 @@
+#include "platform/qt/page_services.h"
+
+#include <QTimer>
+
+#include "feed/addresses.h"
+#include "platform/qt/drive.h"
+#include "platform/qt/http_qt.h"
+#include "platform/qt/text_qt.h"
+#include "platform/shell.h"
+
+namespace skyloft {
+namespace {
+
+// The style sheet that pages link to: the rules that every page shares.
+constexpr const char* kSharedStyle = "body { font-family: Tahoma; font-size: 11px; }\n";
+
+QString LocalFile(const QString& path) {
+  const auto file = PathForReading(FromQt(path));
+  return file ? *file : QString();
+}
+
+void FetchForPage(const QString& url, const std::function<void(QByteArray)>& done) {
+  if (url == kStyleSheet) {
+    done(kSharedStyle);
+    return;
+  }
+  FetchLater(FromQt(url), [done](const std::string& reply) { done(QByteArray::fromStdString(reply)); });
+}
+
+}  // namespace
+
+HtmlServices PageServices() {
+  return {.local_path = LocalFile,
+          .fetch = FetchForPage,
+          .open_link = [](const QString& url) { OpenLink(FromQt(url)); },
+          .play_sound = {}};
+}
+
+}  // namespace skyloft

@@ -1,0 +1,16 @@
+// Pictures as the display shows them.
+#pragma once
+
+#include <string>
+
+#include <QImage>
+
+namespace skyloft {
+
+// The picture that was last loaded from this path; a null image when there is none.
+QImage LoadedPicture(const std::string& path);
+
+// Reads a picture file; a null image when it is missing, no picture, or larger than a screenful of screens.
+QImage ReadPicture(const std::string& path);
+
+}  // namespace skyloft

@@ -1,0 +1,137 @@
+#include "platform/qt/script_acts.h"
+
+#include <algorithm>
+
+#include "base/values.h"
+#include "forms/forms.h"
+#include "forms/menu_form.h"
+#include "platform/qt/clock_qt.h"
+
+namespace skyloft {
+namespace {
+
+std::string CannotBe(const Control& control, const char* act) {
+  return "a " + std::string(control.Type()) + " cannot be " + act;
+}
+
+// The three acts of a click on a picture, as a mouse makes them.
+void ClickImageButton(ImageButton& button) {
+  Raise([&] { button.Down(); });
+  Raise([&] { button.Up(); });
+  Raise([&] { button.Press(); });
+}
+
+template <class T>
+bool Click(Control& control) {
+  auto* target = dynamic_cast<T*>(&control);
+  if (target) Raise([&] { target->Press(); });
+  return target != nullptr;
+}
+
+template <class T>
+bool Press(Control& control, const MousePress& press) {
+  auto* target = dynamic_cast<T*>(&control);
+  if (target) Raise([&] { Fire(target->MouseDown, press); });
+  return target != nullptr;
+}
+
+Timer* FindTimer(const std::string& name) {
+  for (Form* form : AllForms()) {
+    for (Control* control : form->Controls()) {
+      if (control->Name() != name && form->Name() + "." + control->Name() != name) continue;
+      if (auto* timer = dynamic_cast<Timer*>(control)) return timer;
+    }
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+std::string ClickControl(Control& control) {
+  if (auto* button = dynamic_cast<ImageButton*>(&control)) {
+    ClickImageButton(*button);
+    return "";
+  }
+  if (auto* box = dynamic_cast<CheckBox*>(&control)) {
+    Raise([&] { box->Check(!box->Checked); });
+    return "";
+  }
+  if (auto* icon = dynamic_cast<TrayIcon*>(&control)) {
+    Raise([&] { Fire(icon->Click); });
+    return "";
+  }
+  const bool clicked = Click<Label>(control) || Click<Button>(control) || Click<Picture>(control) ||
+                       Click<HtmlDisplay>(control) || Click<MenuItem>(control);
+  return clicked ? "" : CannotBe(control, "clicked");
+}
+
+std::string PressControl(Control& control, const MousePress& press) {
+  const auto press_once = [&](const MousePress& once) {
+    return Press<Form>(control, once) || Press<ImageView>(control, once) || Press<Mark>(control, once);
+  };
+  if (press.button == MouseButton::Double && press_once({press.x, press.y, MouseButton::Left})) {
+    press_once(press);
+    return "";
+  }
+  if (press_once(press)) return "";
+  if (auto* icon = dynamic_cast<TrayIcon*>(&control); icon && press.button == MouseButton::Right) {
+    Raise([&] { Fire(icon->SecondaryClick); });
+    return "";
+  }
+  return press.button == MouseButton::Right ? CannotBe(control, "pressed on the right")
+                                            : ClickControl(control);
+}
+
+std::string SelectEntry(Control& control, const std::string& entry, bool by_text) {
+  int index = static_cast<int>(LenientNumber(entry));
+  if (auto* tabs = dynamic_cast<TabStrip*>(&control)) {
+    for (size_t i = 0; by_text && i < tabs->Tabs.size(); ++i) {
+      if (tabs->Tabs[i] == entry) index = static_cast<int>(i);
+    }
+    return Guarded([&] { tabs->Select(index + 1); }) ? "" : "no such tab";
+  }
+  auto* list = dynamic_cast<ListControl*>(&control);
+  if (!list) return CannotBe(control, "selected from");
+  if (by_text) {
+    const auto& items = list->Items();
+    index = static_cast<int>(std::find(items.begin(), items.end(), entry) - items.begin());
+  }
+  if (index < 0 || index >= list->Count()) return "the list has no such entry";
+  if (list->Enabled) Raise([&] { list->Select(index); });
+  return "";
+}
+
+std::string EnterText(Control& control, const std::string& text) {
+  auto* box = dynamic_cast<TextBox*>(&control);
+  if (!box) return CannotBe(control, "typed into");
+  Raise([&] { box->Enter(text); });
+  return "";
+}
+
+std::string CheckControl(Control& control, bool checked) {
+  auto* box = dynamic_cast<CheckBox*>(&control);
+  if (!box) return CannotBe(control, "checked");
+  Raise([&] { box->Check(checked); });
+  return "";
+}
+
+std::string ChooseEntry(const std::string& name, int index) {
+  const std::string member = index < 0 ? name : name + "[" + std::to_string(index) + "]";
+  Control* control = FindControl(member.find('.') == std::string::npos ? "MenuForm." + member : member);
+  auto* entry = dynamic_cast<MenuItem*>(control);
+  if (!entry) return "no menu entry " + member;
+  Raise([&] { entry->Press(); });
+  return "";
+}
+
+std::string TickTimer(const std::string& name, int count) {
+  Timer* timer = FindTimer(name);
+  if (!timer) return "no timer " + name;
+  for (int i = 0; i < count; ++i) {
+    MoveClock(timer->Interval / 1000);
+    Raise([&] { timer->Elapse(); });
+  }
+  return "";
+}
+
+}  // namespace skyloft

@@ -1,0 +1,187 @@
+#include "platform/qt/view_maker.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabBar>
+
+#include "platform/qt/form_window.h"
+#include "platform/qt/html/html_view.h"
+#include "platform/qt/page_services.h"
+#include "platform/qt/pictures_qt.h"
+#include "platform/qt/text_qt.h"
+#include "platform/qt/widgets.h"
+
+namespace skyloft {
+namespace {
+
+// Numbers of the program hold blue, green, red from the highest byte down.
+QColor ColorOf(int number) { return QColor(number & 255, (number >> 8) & 255, (number >> 16) & 255); }
+
+Qt::Alignment AlignmentOf(const std::string& label) {
+  if (label == "TimeValue") return Qt::AlignRight | Qt::AlignVCenter;
+  if (label == "Introduction" || label == "Heading") return Qt::AlignLeft | Qt::AlignTop;
+  if (label == "LocationLabel" || label == "SevereWeatherLabel" || label == "PersonalLabel")
+    return Qt::AlignCenter;
+  return Qt::AlignLeft | Qt::AlignVCenter;
+}
+
+}  // namespace
+
+// One procedure a kind of control: makes the widget, ties its signals to the model's acts, and tells how to
+// bring it up to the model.
+class ViewMaker : public ControlVisitor {
+ public:
+  explicit ViewMaker(FormWindow& window) : window_(window) {}
+
+  void Visit(Label& model) override {
+    auto* label = new ClickLabel(ParentOf(model));
+    label->setWordWrap(true);
+    label->setAlignment(AlignmentOf(model.Name()));
+    if (model.Name() == "EmailLink") label->setCursor(Qt::PointingHandCursor);
+    if (model.Click) label->clicked = [&model] { Raise([&] { model.Press(); }); };
+    Keep(model, label, [&model, label] { label->setText(ToQt(model.Caption)); });
+  }
+
+  void Visit(TextBox& model) override {
+    auto* line = new QLineEdit(ParentOf(model));
+    QObject::connect(line, &QLineEdit::textEdited, line,
+                     [&model](const QString& text) { Raise([&] { model.Enter(FromQt(text)); }); });
+    Keep(model, line, [&model, line] {
+      line->setReadOnly(model.Locked);
+      if (model.Locked) line->setFocusPolicy(Qt::NoFocus);
+      if (FromQt(line->text()) != model.Text.Get()) line->setText(ToQt(model.Text));
+    });
+  }
+
+  void Visit(Button& model) override {
+    auto* button = new QPushButton(ParentOf(model));
+    QObject::connect(button, &QPushButton::clicked, button, [&model] { Raise([&] { model.Press(); }); });
+    Keep(model, button, [&model, button] { button->setText(ToQt(model.Caption)); });
+  }
+
+  void Visit(CheckBox& model) override { MakeCheck(model, new QCheckBox(ParentOf(model))); }
+
+  void Visit(OptionButton& model) override {
+    auto* option = new QRadioButton(ParentOf(model));
+    option->setAutoExclusive(false);
+    MakeCheck(model, option);
+  }
+
+  void Visit(ListControl& model) override {
+    auto* combo = new QComboBox(ParentOf(model));
+    QObject::connect(combo, &QComboBox::activated, combo,
+                     [&model](int index) { Raise([&] { model.Select(index); }); });
+    Keep(model, combo, [&model, combo] { ShowList(model, *combo); });
+  }
+
+  void Visit(Picture& model) override {
+    auto* label = new ClickLabel(ParentOf(model));
+    label->setAlignment(Qt::AlignCenter);
+    if (model.Click) label->clicked = [&model] { Raise([&] { model.Press(); }); };
+    Keep(model, label,
+         [&model, label] { label->setPixmap(QPixmap::fromImage(LoadedPicture(model.PicturePath()))); });
+  }
+
+  void Visit(ImageButton& model) override {
+    auto* button = new PictureButton(ParentOf(model));
+    QObject::connect(button, &QAbstractButton::pressed, button, [&model] { Raise([&] { model.Down(); }); });
+    QObject::connect(button, &QAbstractButton::released, button, [&model] { Raise([&] { model.Up(); }); });
+    QObject::connect(button, &QAbstractButton::clicked, button, [&model] { Raise([&] { model.Press(); }); });
+    Keep(model, button, [&model, button] { button->SetImage(LoadedPicture(model.PicturePath())); });
+  }
+
+  void Visit(ImageView& model) override {
+    auto* view = new ZoomView(ParentOf(model));
+    Keep(model, view, [&model, view] {
+      view->SetView(LoadedPicture(model.PicturePath()), model.Zoom, QPoint(model.ViewX, model.ViewY));
+    });
+  }
+
+  void Visit(HtmlDisplay& model) override {
+    auto* page = new HtmlView(PageServices(), ParentOf(model));
+    page->clicked = [&model] { Raise([&] { model.Press(); }); };
+    window_.pages_.push_back(page);
+    auto shown = std::make_shared<std::string>();
+    Keep(model, page, [&model, page, shown] {
+      if (*shown == model.Document.Get()) return;
+      *shown = model.Document;
+      page->SetDocument(*shown);
+    });
+  }
+
+  void Visit(ProgressBar& model) override {
+    auto* bar = new PositionBar(ParentOf(model));
+    Keep(model, bar,
+         [&model, bar] { bar->SetPosition(model.Min, model.Max, model.Value, ColorOf(model.Color)); });
+  }
+
+  void Visit(Frame& model) override {
+    auto* frame = new QGroupBox(ParentOf(model));
+    Keep(model, frame, [&model, frame] { frame->setTitle(ToQt(model.Caption)); });
+  }
+
+  void Visit(TabStrip& model) override {
+    auto* tabs = new QTabBar(ParentOf(model));
+    for (const std::string& tab : model.Tabs) tabs->addTab(ToQt(tab));
+    QObject::connect(tabs, &QTabBar::tabBarClicked, tabs,
+                     [&model](int tab) { Raise([&] { model.Select(tab + 1); }); });
+    Keep(model, tabs, [&model, tabs] { tabs->setCurrentIndex(model.Selected() - 1); });
+  }
+
+ private:
+  QWidget* ParentOf(const Control& model) const {
+    const auto container = window_.views_.find(model.Container());
+    return container == window_.views_.end() ? &window_ : container->second.widget;
+  }
+
+  template <class Box>
+  void MakeCheck(CheckBox& model, Box* box) {
+    QObject::connect(box, &Box::clicked, box,
+                     [&model](bool checked) { Raise([&] { model.Check(checked); }); });
+    Keep(model, box, [&model, box] {
+      box->setText(ToQt(model.Caption));
+      box->setChecked(model.Checked);
+    });
+  }
+
+  static void ShowList(const ListControl& model, QComboBox& combo) {
+    QStringList items;
+    for (const std::string& item : model.Items()) items << ToQt(item);
+    QStringList shown;
+    for (int i = 0; i < combo.count(); ++i) shown << combo.itemText(i);
+    if (items != shown) {
+      combo.clear();
+      combo.addItems(items);
+    }
+    combo.setCurrentIndex(model.ListIndex());
+  }
+
+  // What all widgets have in common, and `show` on top of it.
+  void Keep(const Control& model, QWidget* widget, std::function<void()> show) {
+    widget->setObjectName(ToQt(model.Name()));
+    window_.views_[&model] = {widget, [&model, widget, show = std::move(show)] {
+                                widget->setGeometry(model.Left, model.Top, model.Width, model.Height);
+                                widget->setEnabled(model.Enabled);
+                                widget->setToolTip(ToQt(model.ToolTip));
+                                show();
+                                widget->setVisible(model.Visible);
+                              }};
+  }
+
+  FormWindow& window_;
+};
+
+void MakeViews(FormWindow& window, const std::vector<Control*>& controls) {
+  ViewMaker maker(window);
+  for (Control* control : controls) {
+    control->Accept(maker);
+    window.ShowControl(*control);
+  }
+}
+
+}  // namespace skyloft
