@@ -1,0 +1,29 @@
+// The desktop: windows, boxes, shell, screen and process.
+#include "platform/doubles.h"
+#include "platform/process.h"
+#include "platform/shell.h"
+
+namespace skyloft {
+
+void SetWindowRegion(Form&, const RoundRegion& region) { Doubles.regions.push_back(region); }
+void StartWindowDrag(Form&) { ++Doubles.drags; }
+void PopUpMenu(Form&, MenuItem& menu) { Doubles.menus.push_back(menu.Name()); }
+
+BoxAnswer ShowBox(BoxKind kind, const std::string& text) {
+  Doubles.boxes.emplace_back(kind, text);
+  if (Doubles.answers.empty()) return BoxAnswer::Cancel;
+  const BoxAnswer answer = Doubles.answers.front();
+  Doubles.answers.pop_front();
+  return answer;
+}
+
+void OpenLink(const std::string& address) { Doubles.links.push_back(address); }
+void StartUpdate(const std::string& path) { Doubles.started_updates.push_back(path); }
+
+ScreenSize GetScreenSize() { return Doubles.screen; }
+WorkArea GetWorkArea() { return Doubles.work_area; }
+
+std::string ApplicationPath() { return Doubles.application_path; }
+void EndProcess() { throw ProcessEnded(); }
+
+}  // namespace skyloft
