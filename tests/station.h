@@ -14,8 +14,8 @@ class Station : public ::testing::Test {
   // Every table, form and double fresh, the controls attached, the host table read.
   Station();
 
-  // `count` locations with the zip codes 10000, 10001, ... and the titles "Town 0", "Town 1", ...; the first one
-  // selected.
+  // `count` locations with the zip codes 10000, 10001, ... and the titles "Town 0", "Town 1", ...; the first
+  // one selected.
   static void SetUpLocations(int count);
 };
 
@@ -25,7 +25,8 @@ std::string Reply(const std::string& elements);
 std::string Element(const std::string& tag, const std::string& text);
 
 // A meta reply: these stamps, then a model run.
-std::string MetaReply(const std::vector<std::string>& stamps, const std::string& model = "Mar 07 2003 12:00PM");
+std::string MetaReply(const std::vector<std::string>& stamps,
+                      const std::string& model = "Mar 07 2003 12:00PM");
 // The block of a current-conditions reply for a town; its temperature tells the blocks apart.
 std::string CurrentBlock(const std::string& city, int temperature);
 

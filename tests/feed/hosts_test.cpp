@@ -34,11 +34,13 @@ TEST_F(Hosts, TheTableIsReadFromTheFixedAddressWhateverTheStoredOne) {
 
 TEST_F(Hosts, EveryTagHasItsFieldInAnyOrderAndPlace) {
   std::string elements;
-  for (const char* tag : {"shareserver", "supportserver", "helpserver", "updateserver", "imageserver",
-                          "forecastserver", "messageinterval", "messageserver", "productserver", "fileserver"}) {
+  for (const char* tag :
+       {"shareserver", "supportserver", "helpserver", "updateserver", "imageserver", "forecastserver",
+        "messageinterval", "messageserver", "productserver", "fileserver"}) {
     elements += "<deep>" + Element(tag, std::string("the ") + tag) + "</deep>";
   }
-  Doubles.Reply("hosts.xml", Table("1.20.00", elements + "<unknown>x</unknown><fileserver>second</fileserver>"));
+  Doubles.Reply("hosts.xml",
+                Table("1.20.00", elements + "<unknown>x</unknown><fileserver>second</fileserver>"));
   CheckHosts(0);
   EXPECT_EQ(HostTable.fileserver, "the fileserver");
   EXPECT_EQ(HostTable.productserver, "the productserver");
@@ -75,7 +77,8 @@ TEST_F(Hosts, AHigherAndALowerVersionAreBothUpdates) {
 }
 
 TEST_F(Hosts, AStartWithoutAnAnswerShowsTheMessageAndEnds) {
-  for (const char* reply : {"", "not XML", "<r/>", "<r><version></version></r>", "<r><version>1.20.00</version>"}) {
+  for (const char* reply :
+       {"", "not XML", "<r/>", "<r><version></version></r>", "<r><version>1.20.00</version>"}) {
     Doubles.replies.clear();
     Doubles.boxes.clear();
     if (*reply) Doubles.Reply("hosts.xml", reply);
@@ -122,7 +125,8 @@ TEST_F(Hosts, CancelOnTheUpdateBoxEndsWithoutAWindowOrADownload) {
 TEST_F(Hosts, AnAcceptedUpdateIsStartedAndTheCacheGoesAlsoWhenTheDownloadFailed) {
   for (const bool downloads : {true, false}) {
     Doubles = {};
-    Doubles.Reply("hosts.xml", Table("2.0", Element("updateserver", "updates.skyloft.example/skltupdate.exe")));
+    Doubles.Reply("hosts.xml",
+                  Table("2.0", Element("updateserver", "updates.skyloft.example/skltupdate.exe")));
     if (downloads) Doubles.Reply("skltupdate.exe", std::string(200, 'x'));
     Doubles.answers = {BoxAnswer::Ok};
     Doubles.files["c:\\program files\\skyloft\\sklt.dat"] = "data";
@@ -133,7 +137,8 @@ TEST_F(Hosts, AnAcceptedUpdateIsStartedAndTheCacheGoesAlsoWhenTheDownloadFailed)
     EXPECT_TRUE(InitializingForm.Visible);
     EXPECT_EQ(InitializingForm.SoftwareVersion.Caption.Get(), "2.0");
     EXPECT_FALSE(Doubles.files.contains("c:\\program files\\skyloft\\sklt.dat"));
-    EXPECT_EQ(Doubles.started_updates, std::vector<std::string>{"C:\\program files\\skyloft\\temp\\skltupdate.exe"});
+    EXPECT_EQ(Doubles.started_updates,
+              std::vector<std::string>{"C:\\program files\\skyloft\\temp\\skltupdate.exe"});
     EXPECT_EQ(Doubles.files.contains("c:\\program files\\skyloft\\temp\\skltupdate.exe"), downloads);
   }
 }

@@ -26,8 +26,9 @@ TEST_F(ObservationsTest, OneMetaQueryNamesAllLocations) {
   SetUpLocations(3);
   Doubles.Reply("d=meta", MetaReply({"a", "b", "c"}));
   GetMetaData();
-  EXPECT_EQ(Doubles.requests, std::vector<std::string>{
-                                  "forecast.skyloft.example/forecast.asp?pc=10000&pc=10001&pc=10002&t=xml&d=meta"});
+  EXPECT_EQ(Doubles.requests,
+            std::vector<std::string>{
+                "forecast.skyloft.example/forecast.asp?pc=10000&pc=10001&pc=10002&t=xml&d=meta"});
   EXPECT_EQ(ObservationRecord.ObsStampServer[0], "a");
   EXPECT_EQ(ObservationRecord.ObsStampServer[2], "c");
   EXPECT_EQ(Settings.ModelServer, "Mar 07 2003 12:00PM");
@@ -186,8 +187,9 @@ TEST_F(ObservationsTest, APointQueryNamesLatitudeFirstAndTakesThePlacesSecondNam
   Doubles.Reply("d=current", Reply(CurrentBlock("Lawrence", 68)));
   PointConditions point;
   GetCurrentConditionsRT("-95.25", "38.97", point);
-  EXPECT_EQ(Doubles.requests, std::vector<std::string>{
-                                  "forecast.skyloft.example/forecast.asp?lat=38.97&long=-95.25&t=xml&d=current"});
+  EXPECT_EQ(Doubles.requests,
+            std::vector<std::string>{
+                "forecast.skyloft.example/forecast.asp?lat=38.97&long=-95.25&t=xml&d=current"});
   EXPECT_EQ(point.City, "Lawrence");
   EXPECT_EQ(point.State, "KS");
   EXPECT_EQ(point.Tf, "68");

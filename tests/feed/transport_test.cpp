@@ -69,7 +69,8 @@ TEST_F(TransportTest, ProgressOfAPictureIsShownAboveAHundredBytes) {
   ConnectTransport();
   MainForm.ProductTitle.Caption = "before";
   MainForm.HttpData.Progress(50, 100);
-  EXPECT_EQ(MainForm.ProductTitle.Caption.Get(), "before") << "a reply of 100 bytes or less shows no percentage";
+  EXPECT_EQ(MainForm.ProductTitle.Caption.Get(), "before")
+      << "a reply of 100 bytes or less shows no percentage";
   MainForm.HttpData.Progress(100, 101);
   EXPECT_EQ(MainForm.ProductTitle.Caption.Get(), "downloading image ..... 99%") << "cut off, not rounded";
 }

@@ -131,7 +131,9 @@ class Documents : public ::testing::TestWithParam<DocumentCase> {};
 TEST_P(Documents, Elements) {
   const XmlDocument document(GetParam().text);
   ASSERT_EQ(document.Count("a"), GetParam().count);
-  if (GetParam().count > 0) EXPECT_EQ(document.Text("a", 0), GetParam().first);
+  if (GetParam().count > 0) {
+    EXPECT_EQ(document.Text("a", 0), GetParam().first);
+  }
   EXPECT_THROW(document.Text("a", GetParam().count), RuntimeError);
 }
 
@@ -151,7 +153,7 @@ INSTANTIATE_TEST_SUITE_P(
                                    "<?xml version='1.0' encoding='windows-1252'?><r><a>\xE9\x80</a></r>", 1,
                                    "\xE9\x80"},
                       DocumentCase{"Empty", "<r><a/></r>", 1, ""}),
-    [](const auto& info) { return info.param.name; });
+    [](const auto& each) { return each.param.name; });
 
 TEST(Xml, ADeepDocumentIsReadWithoutRecursion) {
   std::string text;

@@ -187,8 +187,10 @@ TEST(Skin, NothingOfTheMainWindowLiesUnderItsRoundCorners) {
     if (!IsShown(*control)) continue;
     const int right = control->Left + control->Width;
     const int bottom = control->Top + control->Height;
-    for (const auto& [x, y] : {std::pair<int, int>(control->Left, control->Top), {right, control->Top},
-                               {control->Left, bottom}, {right, bottom}}) {
+    for (const auto& [x, y] : {std::pair<int, int>(control->Left, control->Top),
+                               {right, control->Top},
+                               {control->Left, bottom},
+                               {right, bottom}}) {
       EXPECT_TRUE(inside(x, y)) << control->Name() << " at " << x << ", " << y;
     }
   }
@@ -208,7 +210,8 @@ TEST(Skin, NoTwoControlsOfTheMainWindowOverlapButTheDisplays) {
     for (size_t j = i + 1; j < controls.size(); ++j) {
       if (!IsShown(*controls[i]) || !IsShown(*controls[j])) continue;
       if (display(*controls[i]) && display(*controls[j])) continue;
-      EXPECT_FALSE(overlap(*controls[i], *controls[j])) << controls[i]->Name() << " and " << controls[j]->Name();
+      EXPECT_FALSE(overlap(*controls[i], *controls[j]))
+          << controls[i]->Name() << " and " << controls[j]->Name();
     }
   }
 }

@@ -15,7 +15,8 @@ bool Fetch(HttpControl& control, std::string& text) {
   for (const auto& [part, reply] : Doubles.replies) {
     if (url.find(part) == std::string::npos) continue;
     text = reply;
-    if (control.Progress) control.Progress(static_cast<long long>(reply.size()), static_cast<long long>(reply.size()));
+    if (control.Progress)
+      control.Progress(static_cast<long long>(reply.size()), static_cast<long long>(reply.size()));
     return true;
   }
   return false;

@@ -4,7 +4,9 @@
 namespace skyloft {
 namespace {
 
-std::string PathOf(std::uint32_t root, const std::string& key) { return LowerCase(std::to_string(root) + "\\" + key); }
+std::string PathOf(std::uint32_t root, const std::string& key) {
+  return LowerCase(std::to_string(root) + "\\" + key);
+}
 
 StoreKey Open(const std::string& path) {
   Doubles.open_keys[++Doubles.last_key] = path;

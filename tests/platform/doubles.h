@@ -1,5 +1,6 @@
-// Doubles of the platform: a clock that is set, a store in a map, files in a map, replies from a list, a record of what
-// was asked. A test program links the double of every platform header but for those it takes real.
+// Doubles of the platform: a clock that is set, a store in a map, files in a map, replies from a list, a
+// record of what was asked. A test program links the double of every platform header but for those it takes
+// real.
 #pragma once
 
 #include <cstdint>
@@ -34,7 +35,8 @@ struct DoublesState {
   Date now = MakeDate(2003, 3, 7, 14, 5, 9);
   ZoneState zone = {360, 1};
 
-  // http: the reply to an address is that of the first entry whose text it holds; without one the fetch fails.
+  // http: the reply to an address is that of the first entry whose text it holds; without one the fetch
+  // fails.
   std::vector<std::pair<std::string, std::string>> replies;
   std::vector<std::string> requests;
   std::function<void(const std::string& url)> during_fetch;
@@ -73,7 +75,9 @@ struct DoublesState {
   std::string application_path = "C:\\somewhere\\else\\skyloft.exe";
 
   // The reply to every address that holds `part`.
-  void Reply(const std::string& part, const std::string& text) { replies.insert(replies.begin(), {part, text}); }
+  void Reply(const std::string& part, const std::string& text) {
+    replies.insert(replies.begin(), {part, text});
+  }
   // A value of the user's branch, as text; "(none)" when it is not there.
   std::string Stored(const std::string& key, const std::string& name) const;
   void Store(const std::string& key, const std::string& name, const std::string& text);

@@ -85,7 +85,8 @@ TEST_F(Profiles, TheRowsThatOthersNameLieWhereTheyAreTold) {
   Doubles.Store(Key(0), "NEXRADServer", "15");
   Settings.LocationIndexMax = "0";
   LoadLocationProfiles();
-  for (int row : {15, 30, 38, 54, 69, 70, 79, 92, 103, 105}) EXPECT_EQ(LocationProfile[row][0], std::to_string(row));
+  for (int row : {15, 30, 38, 54, 69, 70, 79, 92, 103, 105})
+    EXPECT_EQ(LocationProfile[row][0], std::to_string(row));
 }
 
 TEST_F(Profiles, WithoutALocationNothingIsSavedOrLoaded) {

@@ -13,7 +13,8 @@ class Registry : public Station {};
 
 constexpr const char* kKey = "Software\\Aerolume\\Skyloft\\Test";
 
-std::string GetText(const std::string& root, const std::string& name, const std::string& fallback, int& status) {
+std::string GetText(const std::string& root, const std::string& name, const std::string& fallback,
+                    int& status) {
   RegistryValue value;
   status = RegistryGet(root, kKey, name, "S", fallback, value);
   return std::get<std::string>(value);
@@ -21,7 +22,7 @@ std::string GetText(const std::string& root, const std::string& name, const std:
 
 TEST_F(Registry, EveryRootNameHasItsHandleInAnyCase) {
   const std::pair<const char*, std::uint32_t> roots[] = {
-      {"HKCU", 0x80000001}, {"HKLM", 0x80000002}, {"HKU", 0x80000003}, {"HKCC", 0x80000005},
+      {"HKCU", 0x80000001}, {"HKLM", 0x80000002}, {"HKU", 0x80000003},  {"HKCC", 0x80000005},
       {"HKDD", 0x80000006}, {"HKCR", 0x80000000}, {"hkcu", 0x80000001}, {"Hklm", 0x80000002},
   };
   for (const auto& [name, handle] : roots) EXPECT_EQ(RegistryRoot(name), handle) << name;
@@ -140,7 +141,8 @@ TEST_F(Registry, SaveSystemSetsAllFiveEntriesByTheirTitle) {
   SaveSystem();
   EXPECT_EQ(MenuForm.DeleteLocationTitle[2].Caption.Get(), "Town 3");
   EXPECT_TRUE(MenuForm.DeleteLocationTitle[3].Visible);
-  for (auto* menu : {&MenuForm.DeleteLocationTitle, &MenuForm.EditLocationTitle, &MenuForm.TrayLocationTitle}) {
+  for (auto* menu :
+       {&MenuForm.DeleteLocationTitle, &MenuForm.EditLocationTitle, &MenuForm.TrayLocationTitle}) {
     EXPECT_FALSE((*menu)[4].Visible) << "its title is now empty";
     EXPECT_EQ((*menu)[4].Caption.Get(), "");
   }

@@ -11,7 +11,9 @@ namespace {
 
 class SettingsStore : public Station {
  protected:
-  static void Store(const std::string& name, const std::string& text) { Doubles.Store(kSettingsKey, name, text); }
+  static void Store(const std::string& name, const std::string& text) {
+    Doubles.Store(kSettingsKey, name, text);
+  }
   static std::string Stored(const std::string& name) { return Doubles.Stored(kSettingsKey, name); }
 };
 
@@ -122,7 +124,9 @@ TEST_F(SettingsStore, AnEmptyIndexIsARunTimeErrorAndNotZero) {
 
 class OptionsStore : public Station {
  protected:
-  static void Store(const std::string& name, const std::string& text) { Doubles.Store(kOptionsKey, name, text); }
+  static void Store(const std::string& name, const std::string& text) {
+    Doubles.Store(kOptionsKey, name, text);
+  }
   static std::string Stored(const std::string& name) { return Doubles.Stored(kOptionsKey, name); }
 };
 
@@ -149,8 +153,8 @@ TEST_F(OptionsStore, AFirstRunHasTheDefaults) {
 }
 
 TEST_F(OptionsStore, AStoredMinusOneIsRepairedToTenMinutesAlthoughTheDefaultIsFifteen) {
-  for (const char* name : {"NWSUpdate", "CurrentConditionsUpdate", "ForecastUpdate", "NexradUpdate", "AutoConnect",
-                           "LegendFlag"}) {
+  for (const char* name : {"NWSUpdate", "CurrentConditionsUpdate", "ForecastUpdate", "NexradUpdate",
+                           "AutoConnect", "LegendFlag"}) {
     Store(name, "-1");
   }
   LoadOptions();

@@ -18,7 +18,8 @@ struct Found {
   int found = -1;
 };
 
-Found Search(int mode, int first, int last, int code, const std::string& phrase = "", const std::string& icon = "") {
+Found Search(int mode, int first, int last, int code, const std::string& phrase = "",
+             const std::string& icon = "") {
   Found result;
   SkyCondition(mode, first, last, code, phrase, icon, result.code, result.phrase, result.icon, result.found);
   return result;
@@ -26,20 +27,47 @@ Found Search(int mode, int first, int last, int code, const std::string& phrase 
 
 // The forty-one rows as told, by code: phrase and icon.
 const std::pair<const char*, const char*> kRows[] = {
-    {"na", "ssunny"},           {"sunny", "ssunny"},            {"mostly sunny", "smostsun"},
-    {"partly cloudy", "sprtcloud"}, {"partly sunny", "spartsun"}, {"mostly cloudy", "smstcloud"},
-    {"cloudy", "scloudy"},      {"fog", "sfoggy"},              {"light rain", "sliterain"},
-    {"rain", "smodrain"},       {"heavy rain", "shevyrain"},    {"Tstorm", "ststorms"},
-    {"frzng rain", "sfrezrain"}, {"frzng rain / snow", "sfrzrnsno"}, {"rain / snow", "srainsnow"},
-    {"light snow", "slitesnow"}, {"snow", "smodsnow"},          {"heavy snow", "shevysnow"},
-    {"Tstorm?", "ststorms"},    {"shower", "schcshower"},       {"snow shower", "schcsnowshower"},
-    {"clear", "snclear"},       {"mostly clear", "snmstclr"},   {"partly cloudy", "snpartcld"},
-    {"partly cloudy", "snpartcld"}, {"mostly cloudy", "snmostcld"}, {"cloudy", "sncloudy"},
-    {"fog", "snfoggy"},         {"light rain", "snlitrain"},    {"rain", "snmodrain"},
-    {"heavy rain", "snhvyrain"}, {"Tstorm", "sntstorm"},        {"frzng rain", "snfrzrain"},
-    {"frzng rain / snow", "snfrzrnsn"}, {"rain / snow", "snrainsno"}, {"light snow", "snlitesno"},
-    {"snow", "snmodsno"},       {"heavy snow", "snhvysnow"},    {"Tstorm?", "sntstorm"},
-    {"shower", "snchcshower"},  {"snow shower", "snchcsnowshower"},
+    {"na", "ssunny"},
+    {"sunny", "ssunny"},
+    {"mostly sunny", "smostsun"},
+    {"partly cloudy", "sprtcloud"},
+    {"partly sunny", "spartsun"},
+    {"mostly cloudy", "smstcloud"},
+    {"cloudy", "scloudy"},
+    {"fog", "sfoggy"},
+    {"light rain", "sliterain"},
+    {"rain", "smodrain"},
+    {"heavy rain", "shevyrain"},
+    {"Tstorm", "ststorms"},
+    {"frzng rain", "sfrezrain"},
+    {"frzng rain / snow", "sfrzrnsno"},
+    {"rain / snow", "srainsnow"},
+    {"light snow", "slitesnow"},
+    {"snow", "smodsnow"},
+    {"heavy snow", "shevysnow"},
+    {"Tstorm?", "ststorms"},
+    {"shower", "schcshower"},
+    {"snow shower", "schcsnowshower"},
+    {"clear", "snclear"},
+    {"mostly clear", "snmstclr"},
+    {"partly cloudy", "snpartcld"},
+    {"partly cloudy", "snpartcld"},
+    {"mostly cloudy", "snmostcld"},
+    {"cloudy", "sncloudy"},
+    {"fog", "snfoggy"},
+    {"light rain", "snlitrain"},
+    {"rain", "snmodrain"},
+    {"heavy rain", "snhvyrain"},
+    {"Tstorm", "sntstorm"},
+    {"frzng rain", "snfrzrain"},
+    {"frzng rain / snow", "snfrzrnsn"},
+    {"rain / snow", "snrainsno"},
+    {"light snow", "snlitesno"},
+    {"snow", "snmodsno"},
+    {"heavy snow", "snhvysnow"},
+    {"Tstorm?", "sntstorm"},
+    {"shower", "snchcshower"},
+    {"snow shower", "snchcsnowshower"},
 };
 
 TEST_F(Sky, EveryCodeHasItsPhraseAndIcon) {
@@ -93,9 +121,9 @@ TEST_F(Sky, ARowOutsideTheTableIsARunTimeError) { EXPECT_THROW(Search(0, 0, 41, 
 // The sectors that take effect, by their upper bounds; above 0.
 std::string ExpectedWind(double degrees) {
   static const std::pair<double, const char*> sectors[] = {
-      {45, "NNE"},    {67.5, " NE"},  {90, "ENE"},  {112.5, "  E"}, {135, "ESE"},  {157.5, " SE"}, {180, "SSE"},
-      {202.5, "  S"}, {225, "SSW"},   {247.5, " SW"}, {270, "WSW"}, {292.5, "  W"}, {315, "WNW"}, {337.5, " NW"},
-      {360, "NNW"},
+      {45, "NNE"},    {67.5, " NE"},  {90, "ENE"},    {112.5, "  E"}, {135, "ESE"},
+      {157.5, " SE"}, {180, "SSE"},   {202.5, "  S"}, {225, "SSW"},   {247.5, " SW"},
+      {270, "WSW"},   {292.5, "  W"}, {315, "WNW"},   {337.5, " NW"}, {360, "NNW"},
   };
   if (degrees <= 0 || degrees > 360) return "VAR";
   for (const auto& [bound, text] : sectors) {
@@ -111,13 +139,14 @@ TEST_F(Sky, WindDirectionInHalfSteps) {
 }
 
 TEST_F(Sky, WindDirectionAtItsToldPoints) {
-  const std::map<double, std::string> told = {{0, "VAR"},   {0.5, "NNE"}, {45, "NNE"},
+  const std::map<double, std::string> told = {{0, "VAR"},    {0.5, "NNE"}, {45, "NNE"},
                                               {45.5, " NE"}, {360, "NNW"}, {361, "VAR"}};
   for (const auto& [degrees, text] : told) EXPECT_EQ(GetWindDirection(degrees), text) << degrees;
 }
 
 TEST_F(Sky, ThereIsNoNorth) {
-  for (double degrees = 0; degrees <= 361; degrees += 0.25) EXPECT_NE(GetWindDirection(degrees), "  N") << degrees;
+  for (double degrees = 0; degrees <= 361; degrees += 0.25)
+    EXPECT_NE(GetWindDirection(degrees), "  N") << degrees;
 }
 
 TEST_F(Sky, AWindOfNoNumberIsVariable) { EXPECT_EQ(GetWindDirection(std::nan("")), "VAR"); }

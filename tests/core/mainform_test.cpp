@@ -1,0 +1,241 @@
+#include "core/mainform.h"
+
+#include "feed/hosts.h"
+#include "feed/observations.h"
+#include "forms/initializing_form.h"
+#include "forms/main_form.h"
+#include "forms/menu_form.h"
+#include "forms/setup_wizard_form.h"
+#include "forms/system_options_form.h"
+#include "forms/ticker_form.h"
+#include "settings/location_profiles.h"
+#include "settings/registry.h"
+#include "settings/settings.h"
+#include "station.h"
+
+namespace skyloft {
+namespace {
+
+constexpr const char* kDataFile = "c:\\program files\\skyloft\\sklt.dat";
+
+class StartUp : public Station {
+ protected:
+  // A server that answers, and `count` locations in the store.
+  static void SetUpStored(int count) {
+    Doubles.Reply("hosts.xml", Reply(Element("version", "1.20.00") + Element("forecastserver", "server/")));
+    LoadOptions();  // the defaults, as at any start
+    SetUpLocations(count);
+    SaveSystem();
+    MainForm.LocationSelection.Clear();
+    LocationProfile = {};
+    Settings = {};
+    std::vector<std::string> stamps;
+    std::string blocks;
+    for (int i = 0; i < count; ++i) {
+      stamps.push_back("stamp " + std::to_string(i));
+      blocks += CurrentBlock("City " + std::to_string(i), 60 + i);
+    }
+    Doubles.Reply("d=meta", MetaReply(stamps));
+    Doubles.Reply("d=current", Reply(blocks));
+  }
+};
+
+TEST_F(StartUp, TheInstallPathIsTheDriveOfTheApplicationWhateverTheRealFolder) {
+  Doubles.application_path = "D:\\any\\other folder\\program.exe";
+  SetInstallPath();
+  EXPECT_EQ(Settings.InstallPath, "D:\\program files\\skyloft");
+}
+
+TEST_F(StartUp, FiveStoredLocationsAreShownWithTheirConditions) {
+  SetUpStored(5);
+  LoadMainForm();
+  EXPECT_TRUE(MainForm.Visible);
+  EXPECT_EQ(MainForm.LocationSelection.Count(), 5);
+  EXPECT_EQ(MainForm.LocationSelection.ListIndex(), 0);
+  EXPECT_EQ(MainForm.LocationLabel.Caption.Get(), "Town 0");
+  EXPECT_NE(MainForm.WeatherConditionsBanner.Document.Get().find("Temperature</B>: 60 F"), std::string::npos);
+  MainForm.LocationSelection.Select(4);
+  EXPECT_NE(MainForm.WeatherConditionsBanner.Document.Get().find("Temperature</B>: 64 F"), std::string::npos);
+}
+
+TEST_F(StartUp, OneMetaQueryAndOneCurrentQueryAreSent) {
+  SetUpStored(2);
+  LoadMainForm();
+  EXPECT_EQ(Doubles.requests,
+            (std::vector<std::string>{"www.skyloft.example/skyloft/config/hosts.xml",
+                                      "server/forecast.asp?pc=10000&pc=10001&t=xml&d=meta",
+                                      "server/forecast.asp?pc=10000&pc=10001&t=xml&d=current"}));
+}
+
+TEST_F(StartUp, WithoutALocationTheWizardRunsAndTheSplashIsNotUsed) {
+  Doubles.Reply("hosts.xml", Reply(Element("version", "1.20.00")));
+  bool splash = false;
+  Doubles.during_fetch = [&](const std::string&) { splash |= InitializingForm.Visible; };
+  LoadMainForm();
+  EXPECT_TRUE(SetupWizardForm.Visible);
+  EXPECT_FALSE(MainForm.Visible);
+  EXPECT_FALSE(InitializingForm.Visible);
+  EXPECT_FALSE(splash);
+  EXPECT_FALSE(MainForm.Clock.Enabled);
+  EXPECT_FALSE(MainForm.UpdateTimer.Enabled);
+  EXPECT_EQ(Start.LocalView, std::string("True"));
+}
+
+TEST_F(StartUp, TheSplashTellsTheStepThatRunsAndTheTimersAreOff) {
+  SetUpStored(1);
+  std::vector<std::string> told;
+  Doubles.during_fetch = [&](const std::string& url) {
+    if (url.find("forecast.asp") == std::string::npos) return;
+    told.push_back(InitializingForm.SoftwareStatus.Caption.Get() + " " +
+                   std::to_string(InitializingForm.ProgressBar.Value));
+    EXPECT_TRUE(InitializingForm.Visible);
+    EXPECT_EQ(InitializingForm.ProgressBar.Max, 13);
+    EXPECT_FALSE(MainForm.Visible);
+    EXPECT_FALSE(MainForm.Clock.Enabled);
+  };
+  LoadMainForm();
+  EXPECT_EQ(told,
+            (std::vector<std::string>{"connecting to Skyloft Server 0", "receiving current conditions 2"}));
+  EXPECT_FALSE(InitializingForm.Visible);
+  EXPECT_EQ(InitializingForm.ProgressBar.Value, 0);
+  EXPECT_EQ(InitializingForm.SoftwareStatus.Caption.Get(), "checking personal forecast alerts");
+  EXPECT_TRUE(MainForm.Clock.Enabled);
+  EXPECT_TRUE(MainForm.UpdateTimer.Enabled);
+}
+
+// A row that sets no text leaves the one before: the severe buttons appear under "receiving sponsor", with
+// the splash over the visible main window.
+TEST_F(StartUp, TheSplashStaysOverTheVisibleMainWindowForTheLastRows) {
+  SetUpStored(1);
+  TakeDirtyControls();
+  std::string status_at_selection;
+  int value_at_selection = 0;
+  MainForm.LocationSelection.Click = [&] {
+    status_at_selection = InitializingForm.SoftwareStatus.Caption;
+    value_at_selection = InitializingForm.ProgressBar.Value;
+    EXPECT_TRUE(InitializingForm.Visible);
+    EXPECT_FALSE(MainForm.Visible) << "it becomes visible at the next row";
+    EXPECT_TRUE(Doubles.files.contains(kDataFile)) << "saving comes before";
+  };
+  LoadMainForm();
+  EXPECT_EQ(status_at_selection, "updating display");
+  EXPECT_EQ(value_at_selection, 9) << "the row between, for messages, sets no value";
+  EXPECT_TRUE(MainForm.TornadoButton.Visible);
+}
+
+TEST_F(StartUp, AStoredLocationOutsideTheListEndsTheProcessAndTheCacheIsGone) {
+  for (const char* location : {"5", "-1", ""}) {
+    MainForm = {};
+    Doubles = {};
+    ConnectForms();
+    SetUpStored(2);
+    Doubles.Store(kSettingsKey, "Location", location);
+    EXPECT_TRUE(EndsProcess(LoadMainForm)) << location;
+    EXPECT_FALSE(Doubles.files.contains(kDataFile)) << location;
+    EXPECT_TRUE(Doubles.boxes.empty());
+    EXPECT_FALSE(MainForm.Visible);
+  }
+}
+
+TEST_F(StartUp, AServerThatIsGoneAfterTheHostTableLeavesTheOldDataOnShow) {
+  SetUpStored(2);
+  LoadMainForm();
+  MenuForm = {};
+  Doubles.replies.clear();
+  Doubles.Reply("hosts.xml", Reply(Element("version", "1.20.00")));
+  ObservationRecord = {};
+  MainForm.Visible = false;
+  LoadMainForm();
+  EXPECT_TRUE(MainForm.Visible);
+  EXPECT_NE(MainForm.WeatherConditionsBanner.Document.Get().find("Temperature</B>: 60 F"), std::string::npos);
+}
+
+TEST_F(StartUp, AnUnreachableServerEndsTheProcessWithItsCachedDataUntouched) {
+  SetUpStored(1);
+  Doubles.replies.clear();
+  EXPECT_TRUE(EndsProcess(LoadMainForm));
+  EXPECT_TRUE(Doubles.files.contains(kDataFile));
+  EXPECT_EQ(Doubles.boxes.size(), 1u);
+  EXPECT_FALSE(InitializingForm.Visible);
+}
+
+TEST_F(StartUp, TheTickerIsSizedAndPlacedByTheWorkArea) {
+  Doubles.work_area = {600, 15000, 12000};
+  SetUpStored(1);
+  LoadMainForm();
+  EXPECT_EQ(TickerForm.Height, 525);
+  EXPECT_EQ(TickerForm.Width, 15000);
+  EXPECT_EQ(TickerForm.Ticker.Height, 35);
+  EXPECT_EQ(TickerForm.Ticker.Width, 1000);
+  EXPECT_EQ(TickerForm.Top, 600 + 12000 - 525);
+  EXPECT_EQ(TickerForm.Left, 0);
+  EXPECT_TRUE(TickerForm.Visible);
+  EXPECT_FALSE(TickerForm.TopMost);
+  EXPECT_EQ(
+      TickerForm.Ticker.Document.Get(),
+      "<html><body bgcolor='000000' topmargin='0' leftmargin='0' marginheight='0' marginwidth='0'></body>"
+      "</html>");
+  EXPECT_EQ(Start.WorkAreaTopSaved, 600);
+  EXPECT_EQ(Start.WorkAreaHeightSaved, 12000);
+}
+
+TEST_F(StartUp, TheTickersPlaceLooksOnlyAtTheTopOption) {
+  Doubles.work_area = {600, 15000, 12000};
+  SetUpStored(1);
+  Doubles.Store(kOptionsKey, "TopScreenPosition", "1");
+  Doubles.Store(kOptionsKey, "BottomScreenPosition", "1");
+  LoadMainForm();
+  EXPECT_EQ(TickerForm.Top, 600);
+}
+
+TEST_F(StartUp, TheTickerFollowsItsOptions) {
+  SetUpStored(1);
+  Doubles.Store(kOptionsKey, "AlwaysOnTop", "1");
+  LoadMainForm();
+  EXPECT_TRUE(TickerForm.TopMost);
+  TickerForm = {};
+  Doubles.Store(kOptionsKey, "ShowTicker", "0");
+  LoadMainForm();
+  EXPECT_FALSE(TickerForm.Visible);
+  EXPECT_FALSE(TickerForm.TopMost);
+}
+
+TEST_F(StartUp, TheWindowGetsItsShape) {
+  SetUpStored(1);
+  LoadMainForm();
+  EXPECT_EQ(Doubles.regions, std::vector<RoundRegion>({{0, -2, 800, 590, 110, 96}}));
+}
+
+TEST_F(StartUp, TheExitButtonAndACloseRequestOnlyHideTheWindow) {
+  SetUpStored(1);
+  LoadMainForm();
+  MainForm.ExitButton.Press();
+  EXPECT_FALSE(MainForm.Visible);
+  EXPECT_TRUE(MainForm.Clock.Enabled);
+  EXPECT_TRUE(MainForm.UpdateTimer.Enabled);
+  MainForm.Visible = true;
+  Fire(MainForm.Unload);
+  EXPECT_FALSE(MainForm.Visible);
+}
+
+TEST_F(StartUp, TheSupportLinkOpensTheUsersMailProgram) {
+  InitializingForm.EmailLink.Press();
+  ASSERT_EQ(Doubles.links.size(), 1u);
+  EXPECT_EQ(Doubles.links[0].substr(0, 7), "mailto:");
+}
+
+TEST_F(StartUp, AFailureOfAnyFileOrStoreCallDoesNotEndTheStart) {
+  for (int call = 1; call <= 4; ++call) {
+    Doubles = {};
+    MainForm = {};
+    ConnectForms();
+    SetUpStored(1);
+    Doubles.file_failure.at = call;
+    Doubles.store_failure.at = call * 10 + 20;
+    EXPECT_FALSE(EndsProcess(LoadMainForm)) << call;
+    EXPECT_TRUE(MainForm.Visible) << call;
+  }
+}
+
+}  // namespace
+}  // namespace skyloft

@@ -1,0 +1,138 @@
+#include "setup/location_search.h"
+
+#include "feed/hosts.h"
+#include "forms/main_form.h"
+#include "forms/setup_wizard_form.h"
+#include "settings/location_profiles.h"
+#include "station.h"
+
+namespace skyloft {
+namespace {
+
+std::string PlaceReply() {
+  return Reply(Element("postal_code", "66044") + Element("city", "Lawrence") + Element("state", "KS") +
+               Element("county", "Douglas") + Element("area_code", "785") + Element("gmt_offset", "-6") +
+               Element("latitude", "38.9717") + Element("longitude", "-95.2353") +
+               Element("nws_office", "TOP") + Element("radar_station_code", "TWX") +
+               Element("radar_station_lat", "38.997") + Element("radar_station_long", "-96.232") +
+               Element("nws_radar_server", "radar.skyloft.example") + Element("state_long", "Kansas") +
+               Element("dst_ind", "1"));
+}
+
+class LocationSearch : public Station {
+ protected:
+  LocationSearch() {
+    SetupWizardForm.ZipCodeOption.Checked = true;
+    SetupWizardForm.ZipCodeInput.Text = "66044";
+  }
+  PlaceResults results;
+};
+
+TEST_F(LocationSearch, AZipCodeFillsTheTableAndTheCaptions) {
+  Doubles.Reply("location_setup.asp", PlaceReply());
+  EXPECT_EQ(SearchLocationDatabase(results), 1);
+  EXPECT_EQ(Doubles.requests,
+            std::vector<std::string>{"forecast.skyloft.example/location_setup.asp?pc=66044&t=xml"});
+  const char* told[] = {"66044",
+                        "Lawrence",
+                        "KS",
+                        "Douglas",
+                        "785",
+                        "-6",
+                        "38.9717",
+                        "-95.2353",
+                        "TOP",
+                        "TWX",
+                        "38.997",
+                        "-96.232",
+                        "radar.skyloft.example",
+                        "Kansas",
+                        "1"};
+  for (int i = 0; i < PlaceResults::Size(); ++i) EXPECT_EQ(results[i], told[i]) << i;
+  const auto& wizard = SetupWizardForm;
+  EXPECT_EQ(wizard.ZipCodeResult.Caption.Get(), "66044");
+  EXPECT_EQ(wizard.CityStateResult.Caption.Get(), "Lawrence, KS");
+  EXPECT_EQ(wizard.TitleResult.Text.Get(), "Lawrence, KS");
+  EXPECT_EQ(wizard.CountyResult.Caption.Get(), "Douglas");
+  EXPECT_EQ(wizard.AreaCodeResult.Caption.Get(), "785");
+  EXPECT_EQ(wizard.TimeZoneResult.Caption.Get(), "-6");
+  EXPECT_EQ(wizard.LatitudeResult.Caption.Get(), "38.97");
+  EXPECT_EQ(wizard.LongitudeResult.Caption.Get(), "-95.24");
+}
+
+TEST_F(LocationSearch, CoordinatesStayWholeInTheResultsAndAreRoundedInTheProfile) {
+  Doubles.Reply("location_setup.asp", PlaceReply());
+  SearchLocationDatabase(results);
+  CopyPlace(results, 3);
+  EXPECT_EQ(results[PlaceEntry::Latitude], "38.9717");
+  EXPECT_EQ(LocationProfile[ProfileRow::Latitude][3], "38.97");
+  EXPECT_EQ(LocationProfile[ProfileRow::Longitude][3], "-95.24");
+  EXPECT_EQ(LocationProfile[ProfileRow::ZipCode][3], "66044");
+  EXPECT_EQ(LocationProfile[ProfileRow::TimeZone][3], "-6");
+  EXPECT_EQ(LocationProfile[ProfileRow::Dst][3], "1");
+  EXPECT_EQ(LocationProfile[ProfileRow::NEXRADLocation][3], "TWX");
+  EXPECT_EQ(LocationProfile[ProfileRow::NEXRADServer][3], "radar.skyloft.example");
+  EXPECT_EQ(LocationProfile[ProfileRow::StateLong][3], "Kansas");
+}
+
+TEST_F(LocationSearch, TwoDecimalsAreWrittenAsANumber) {
+  std::string reply = PlaceReply();
+  reply.replace(reply.find("38.9717"), 7, "38.9000");
+  Doubles.Reply("location_setup.asp", reply);
+  SearchLocationDatabase(results);
+  EXPECT_EQ(SetupWizardForm.LatitudeResult.Caption.Get(), "38.9");
+}
+
+TEST_F(LocationSearch, ACityWithABlankGoesOutUnchanged) {
+  SetupWizardForm.ZipCodeOption.Checked = false;
+  SetupWizardForm.CityInput.Text = "St. Paul ";
+  SetupWizardForm.StateInput.AddItem("MN");
+  SetupWizardForm.StateInput.Select(0);
+  SearchLocationDatabase(results);
+  EXPECT_EQ(
+      Doubles.requests,
+      std::vector<std::string>{"forecast.skyloft.example/location_setup.asp?city=St. Paul &state=MN&t=xml"});
+}
+
+TEST_F(LocationSearch, AnEmptyZipCodeGoesOutAsSuchAndIsNotFound) {
+  SetupWizardForm.ZipCodeInput.Text = "";
+  Doubles.Reply("location_setup.asp", "<r/>");
+  EXPECT_EQ(SearchLocationDatabase(results), 0);
+  EXPECT_EQ(Doubles.requests,
+            std::vector<std::string>{"forecast.skyloft.example/location_setup.asp?pc=&t=xml"});
+}
+
+TEST_F(LocationSearch, OfTwoPlacesTheFirstIsTaken) {
+  Doubles.Reply("location_setup.asp",
+                Reply(PlaceReply() + Element("postal_code", "99999") + Element("city", "Other")));
+  EXPECT_EQ(SearchLocationDatabase(results), 1);
+  EXPECT_EQ(results[0], "66044");
+  EXPECT_EQ(results[1], "Lawrence");
+}
+
+TEST_F(LocationSearch, NextIsOffAndTheStatusToldWhileItWaitsAndBothAreBackInEveryCase) {
+  bool waited = false;
+  Doubles.during_fetch = [&](const std::string&) {
+    waited = true;
+    EXPECT_FALSE(SetupWizardForm.NextButton.Enabled);
+    EXPECT_EQ(SetupWizardForm.Status.Caption.Get(), "verifying location...please wait");
+  };
+  for (const char* reply : {"", "garbage", "<r/>"}) {
+    Doubles.replies.clear();
+    if (*reply) Doubles.Reply("location_setup.asp", reply);
+    EXPECT_EQ(SearchLocationDatabase(results), 0);
+    EXPECT_TRUE(SetupWizardForm.NextButton.Enabled);
+    EXPECT_EQ(SetupWizardForm.Status.Caption.Get(), "");
+  }
+  EXPECT_TRUE(waited);
+}
+
+TEST_F(LocationSearch, ABusyControlIsNotFoundAndAsksNothing) {
+  MainForm.Http.State = 1;
+  EXPECT_EQ(SearchLocationDatabase(results), 0);
+  EXPECT_TRUE(Doubles.requests.empty());
+  EXPECT_TRUE(SetupWizardForm.NextButton.Enabled);
+}
+
+}  // namespace
+}  // namespace skyloft
