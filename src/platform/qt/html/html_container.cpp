@@ -199,6 +199,16 @@ std::shared_ptr<litehtml::element> HtmlContainer::create_element(
   return CreateHtmlElement(tag, document, budget_);
 }
 
+void HtmlContainer::split_text(const char* text, const std::function<void(const char*)>& on_word,
+                               const std::function<void(const char*)>& on_space) {
+  const auto bounded = [this](const std::function<void(const char*)>& take) {
+    return [this, &take](const char* piece) {
+      if (budget_.SpendPiece()) take(piece);
+    };
+  };
+  document_container::split_text(text, bounded(on_word), bounded(on_space));
+}
+
 void HtmlContainer::get_media_features(litehtml::media_features& media) const {
   media.type = litehtml::media_type_screen;
   media.width = media.device_width = view_size_.width();

@@ -59,6 +59,8 @@ class HtmlContainer final : public litehtml::document_container {
   std::shared_ptr<litehtml::element> create_element(
       const char* tag, const litehtml::string_map& attributes,
       const std::shared_ptr<litehtml::document>& document) override;
+  void split_text(const char* text, const std::function<void(const char*)>& on_word,
+                  const std::function<void(const char*)>& on_space) override;
   void get_media_features(litehtml::media_features& media) const override;
   void get_language(litehtml::tstring& language, litehtml::tstring& culture) const override;
 

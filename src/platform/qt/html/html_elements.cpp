@@ -24,9 +24,20 @@ class Hinted : public Base {
       : Base(document), budget_(budget) {}
 
   int render(int x, int y, int max_width, bool second_pass) override {
-    budget_.Spend();
+    budget_.SpendWork(1 + this->m_children.size() / 4);
     return Base::render(x, y, max_width, second_pass);
   }
+
+  // Each float is compared with those before it.
+  void add_float(const litehtml::element::ptr& child, int x, int y) override {
+    budget_.SpendWork((this->m_floats_left.size() + this->m_floats_right.size()) / 4);
+    Base::add_float(child, x, y);
+  }
+
+  int select(const litehtml::css_selector& selector, bool apply_pseudo) override {
+    return budget_.SpendSelection() ? Base::select(selector, apply_pseudo) : litehtml::select_no_match;
+  }
+  using Base::select;
 
   void parse_attributes() override {
     const auto background = this->m_attrs.find("background");
@@ -66,6 +77,7 @@ std::shared_ptr<litehtml::element> Make(const std::shared_ptr<litehtml::document
 std::shared_ptr<litehtml::element> CreateHtmlElement(const std::string& tag,
                                                      const std::shared_ptr<litehtml::document>& document,
                                                      LayoutBudget& budget) {
+  if (!budget.SpendElement()) return std::make_shared<litehtml::html_tag>(document);
   static const std::map<std::string, Maker, std::less<>> makers = {
       {"a", Make<litehtml::el_anchor>},    {"body", Make<litehtml::el_body>},
       {"br", Make<litehtml::el_break>},    {"img", Make<litehtml::el_image>},

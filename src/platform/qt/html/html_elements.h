@@ -14,18 +14,25 @@ struct LayoutTooCostly : std::runtime_error {
   LayoutTooCostly() : std::runtime_error("page too costly to lay out") {}
 };
 
-// How many boxes a page may still lay out. Boxes inside boxes of unknown width are laid out several times, so
-// the cost of a small page can be exponential.
+// What a page may still cost. Boxes inside boxes of unknown width are laid out several times and each rule of
+// a style sheet is tried on each element, so the cost of a small page can be exponential. Spending throws
+// only during the layout; what was spent too much before is charged there.
 class LayoutBudget {
  public:
-  void Refill() { left_ = kBoxes; }
-  void Spend() {
-    if (--left_ < 0) throw LayoutTooCostly();
+  void BeginPage() { elements_ = kElements, selections_ = kSelections, pieces_ = kPieces; }
+  void BeginLayout() { work_ = kWork; }
+
+  bool SpendElement() { return --elements_ >= 0; }
+  bool SpendSelection() { return --selections_ >= 0; }
+  bool SpendPiece() { return --pieces_ >= 0; }  // of text: a word or the room between two
+  void SpendWork(std::size_t amount) {
+    work_ -= static_cast<long>(amount);
+    if (work_ < 0 || elements_ < 0 || selections_ < 0) throw LayoutTooCostly();
   }
 
  private:
-  static constexpr int kBoxes = 150'000;
-  int left_ = kBoxes;
+  static constexpr long kElements = 15'000, kSelections = 1'000'000, kPieces = 30'000, kWork = 60'000;
+  long elements_ = kElements, selections_ = kSelections, pieces_ = kPieces, work_ = kWork;
 };
 
 // The element of a tag; empty where the class of the engine itself does (style, link). `budget` outlives the

@@ -210,12 +210,18 @@ int CellPixels(const Element& cell, const litehtml::element& table) {
   }
   const int spacing = std::atoi(table.get_attr("cellspacing", "2"));
   const int inner = std::max(1, std::atoi(width.c_str()) - 2 * BorderOf(table) - (columns + 1) * spacing);
-  int wished = 0;
+  int wished = 0, before = 0;  // by all cells of the row, and by those left of this one
   for (int i = 0; i < static_cast<int>(row->get_children_count()); ++i) {
-    wished += WishedPixels(*row->get_child(i), inner);
+    const auto sibling = row->get_child(i);
+    if (sibling.get() == &cell) before = wished;
+    wished += WishedPixels(*sibling, inner);
   }
   const int own = WishedPixels(cell, inner);
-  return wished > inner ? static_cast<int>(static_cast<long>(own) * inner / wished) : own;
+  if (wished <= inner) return own;
+  const auto scaled = [&](int pixels) {
+    return static_cast<int>(static_cast<long>(pixels) * inner / wished);
+  };
+  return scaled(before + own) - scaled(before);  // so that the rounded widths add up
 }
 
 void AddCellHints(std::vector<StyleHint>& hints, const Element& cell) {

@@ -69,10 +69,10 @@ QImage DecodeHtmlPicture(const QByteArray& bytes) {
 
 QImage HtmlLoader::Picture(const QString& address) {
   if (IsRemote(address)) return AskFor(address, false).picture;
+  if (const auto known = locals_.constFind(address); known != locals_.constEnd()) return *known;
   const QString path = LocalPathOf(address);
-  if (path.isEmpty() || !services_.local_path) return {};
-  const QString file = services_.local_path(path);
-  return file.isEmpty() ? QImage() : ReadLocalPicture(file);
+  const QString file = path.isEmpty() || !services_.local_path ? QString() : services_.local_path(path);
+  return *locals_.insert(address, file.isEmpty() ? QImage() : ReadLocalPicture(file));
 }
 
 QByteArray HtmlLoader::StyleSheet(const QString& address) {
@@ -94,6 +94,7 @@ HtmlLoader::Remote& HtmlLoader::AskFor(const QString& url, bool sheet) {
 void HtmlLoader::BeginDocument() {
   ++document_;
   remotes_.clear();
+  locals_.clear();
   waiting_.clear();
   awaited_ = 0;
 }

@@ -28,8 +28,9 @@ class HtmlLoader : public std::enable_shared_from_this<HtmlLoader> {
   HtmlLoader(const HtmlServices& services, std::function<void(bool sheet)> changed)
       : services_(services), changed_(std::move(changed)) {}
 
-  // The picture of an address; empty when there is none (yet). Local files are kept until they change; remote
-  // ones are asked for by the first call and kept for the present document.
+  // The picture of an address; empty when there is none (yet). A document keeps what it was given; local
+  // files are read again for a later document when they have changed. Remote ones are asked for by the first
+  // call.
   QImage Picture(const QString& address);
   // The same for the text of a remote style sheet.
   QByteArray StyleSheet(const QString& address);
@@ -53,11 +54,12 @@ class HtmlLoader : public std::enable_shared_from_this<HtmlLoader> {
   void Take(const QString& url, int document, const QByteArray& bytes);
 
   static constexpr int kFetches = 4;
-  static constexpr qsizetype kMaxPicture = 8'000'000, kMaxSheet = 200'000;  // bytes
+  static constexpr qsizetype kMaxPicture = 8'000'000, kMaxSheet = 16'000;  // bytes
 
   const HtmlServices services_;
   const std::function<void(bool sheet)> changed_;
   QHash<QString, Remote> remotes_;
+  QHash<QString, QImage> locals_;
   QQueue<QString> waiting_;
   int running_ = 0, awaited_ = 0, document_ = 0;
 };

@@ -5,6 +5,8 @@
 #include <optional>
 #include <vector>
 
+#include "platform/qt/html/html_nesting.h"
+
 namespace skyloft {
 namespace {
 
@@ -13,41 +15,18 @@ bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '\f'; }
 char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; }
 
-bool IsOneOf(std::string_view word, std::initializer_list<std::string_view> words) {
-  return std::find(words.begin(), words.end(), word) != words.end();
-}
-
-bool IsVoid(std::string_view tag) {
-  return IsOneOf(tag, {"area", "base", "basefont", "bgsound", "br", "col", "embed", "frame", "hr", "img",
-                       "input", "link", "meta", "param", "source", "wbr"});
-}
-
-bool IsTablePart(std::string_view tag) {
-  return IsOneOf(tag, {"tr", "td", "th", "tbody", "thead", "tfoot", "caption", "colgroup", "col"});
-}
-
-// Whether an open `inner` ends where `tag` starts, since its end tag may be left out.
-bool EndsBefore(std::string_view tag, std::string_view inner) {
-  if (tag == "td" || tag == "th") return inner == "td" || inner == "th";
-  if (tag == "tr") return IsOneOf(inner, {"td", "th", "tr"});
-  if (IsOneOf(tag, {"tbody", "thead", "tfoot"})) {
-    return IsOneOf(inner, {"td", "th", "tr", "tbody", "thead", "tfoot"});
-  }
-  return tag == inner && IsOneOf(tag, {"p", "li", "option", "dt", "dd"});
-}
-
 struct Attribute {
   std::string name, value;
 };
 
 // The numbers that the engine computes with; other attributes are texts.
 void BoundNumber(Attribute& attribute) {
-  const bool span = IsOneOf(attribute.name, {"colspan", "rowspan"});
-  if (!span &&
-      !IsOneOf(attribute.name, {"width", "height", "border", "cellpadding", "cellspacing", "hspace", "vspace",
-                                "topmargin", "leftmargin", "marginheight", "marginwidth"})) {
+  static constexpr const char* kNumbers[] = {"width",       "height",       "border",     "cellpadding",
+                                             "cellspacing", "hspace",       "vspace",     "topmargin",
+                                             "leftmargin",  "marginheight", "marginwidth"};
+  const bool span = attribute.name == "colspan" || attribute.name == "rowspan";
+  if (!span && std::find(std::begin(kNumbers), std::end(kNumbers), attribute.name) == std::end(kNumbers))
     return;
-  }
   const long number = std::strtol(attribute.value.c_str(), nullptr, 10);
   if (span) {
     attribute.value = std::to_string(std::clamp(number, 1L, static_cast<long>(HtmlLimits::kSpan)));
@@ -56,12 +35,19 @@ void BoundNumber(Attribute& attribute) {
   }
 }
 
+int SpanOf(const std::vector<Attribute>& attributes) {
+  for (const Attribute& attribute : attributes) {
+    if (attribute.name == "colspan") return std::atoi(attribute.value.c_str());
+  }
+  return 1;
+}
+
 class Tidier {
  public:
   explicit Tidier(std::string_view page) : page_(page.substr(0, HtmlLimits::kBytes)) {}
 
   std::string Run() {
-    while (at_ < page_.size()) {
+    while (at_ < page_.size() && out_.size() < HtmlLimits::kBytes) {
       if (page_[at_] == '<') {
         ReadMarkup();
       } else {
@@ -72,11 +58,6 @@ class Tidier {
   }
 
  private:
-  struct Open {
-    std::string name;
-    int columns;  // of a table's present row
-  };
-
   char Peek(std::size_t ahead = 0) const { return at_ + ahead < page_.size() ? page_[at_ + ahead] : '\0'; }
   bool AtMarkup() const { return Peek() == '<' && (IsLetter(Peek(1)) || Peek(1) == '/' || Peek(1) == '!'); }
   void SkipBlanks() {
@@ -170,28 +151,30 @@ class Tidier {
     ++at_;
     const std::string name = ReadName();
     const std::vector<Attribute> attributes = ReadAttributes();
-    if (name == "script") {
-      SkipRawText(name);
-    } else if (Opens(name, attributes)) {
-      WriteStartTag(name, attributes);
-      if (name == "style") CopyRawText(name);
+    if (HtmlNesting::IsRaw(name)) {
+      at_ = FindRawEnd(name);
+    } else if (name == "style") {
+      CopyStyle();
+    } else if (HtmlNesting::IsKnown(name)) {
+      const std::string text = TagText(name, attributes);
+      if (nesting_.Opens(name, text, SpanOf(attributes))) out_ += text;
     }
   }
 
-  void WriteStartTag(const std::string& name, const std::vector<Attribute>& attributes) {
-    out_ += '<' + name;
+  static std::string TagText(const std::string& name, const std::vector<Attribute>& attributes) {
+    std::string text = '<' + name;
     for (const Attribute& attribute : attributes) {
-      out_ += ' ' + attribute.name + "=\"";
+      text += ' ' + attribute.name + "=\"";
       for (const char c : attribute.value) {
         if (c == '"') {
-          out_ += "&quot;";
+          text += "&quot;";
         } else if (c != '\0') {
-          out_ += c;
+          text += c;
         }
       }
-      out_ += '"';
+      text += '"';
     }
-    out_ += '>';
+    return text + '>';
   }
 
   std::size_t FindRawEnd(std::string_view name) const {
@@ -205,79 +188,31 @@ class Tidier {
     }
     return page_.size();
   }
-  void CopyRawText(std::string_view name) { CopyText(FindRawEnd(name)); }
-  void SkipRawText(std::string_view name) {
-    at_ = FindRawEnd(name);
-    SkipBeyond(">");
-  }
 
-  Open* InnermostTable() {
-    const auto table =
-        std::find_if(open_.rbegin(), open_.rend(), [](const Open& o) { return o.name == "table"; });
-    return table == open_.rend() ? nullptr : &*table;
-  }
-
-  // Takes the tag into the account; false when it goes beyond a bound.
-  bool Opens(const std::string& name, const std::vector<Attribute>& attributes) {
-    if (++tags_ > HtmlLimits::kTags) return false;
-    if (name == "table" && (dropped_tables_ > 0 || tables_ == HtmlLimits::kTables)) {
-      ++dropped_tables_;
-      return false;
+  void CopyStyle() {
+    const std::size_t end = FindRawEnd("style");
+    style_left_ -= std::min(style_left_, end - at_);
+    if (style_left_ > 0) {
+      out_ += "<style>";
+      CopyText(end);
+      out_ += "</style>";
     }
-    if (IsTablePart(name) && (dropped_tables_ > 0 || !TakesTablePart(name, attributes))) return false;
-    for (std::size_t i = open_.size(); i > 0 && open_[i - 1].name != "table"; --i) {
-      if (EndsBefore(name, open_[i - 1].name)) open_.resize(i - 1);
-    }
-    if (IsVoid(name)) return true;
-    if (open_.size() >= HtmlLimits::kDepth && !IsTablePart(name)) {
-      if (name == "table") ++dropped_tables_;
-      return false;
-    }
-    if (name == "table") ++tables_;
-    open_.push_back({name, 0});
-    return true;
-  }
-
-  bool TakesTablePart(const std::string& name, const std::vector<Attribute>& attributes) {
-    Open* const table = InnermostTable();
-    if (!table) return true;
-    if (name == "tr") table->columns = 0;
-    if (name != "td" && name != "th") return true;
-    int span = 1;
-    for (const Attribute& attribute : attributes) {
-      if (attribute.name == "colspan") span = std::atoi(attribute.value.c_str());
-    }
-    if (table->columns + span > HtmlLimits::kColumns) return false;
-    table->columns += span;
-    return true;
+    at_ = end;
   }
 
   void ReadEndTag() {
     at_ += 2;
     const std::string name = ReadName();
     ReadAttributes();
-    if (dropped_tables_ > 0 && (name == "table" || IsTablePart(name))) {
-      if (name == "table") --dropped_tables_;
-      return;
-    }
-    if (++tags_ > 2 * HtmlLimits::kTags) return;
-    for (std::size_t i = open_.size(); i > 0; --i) {
-      if (open_[i - 1].name == name) {
-        if (name == "table") --tables_;
-        open_.resize(i - 1, {});
-        break;
-      }
-      if (open_[i - 1].name == "table") break;
-    }
-    out_ += "</" + name + '>';
+    if (nesting_.Closes(name)) out_ += "</" + name + '>';
   }
 
   const std::string_view page_;
   std::size_t at_ = 0;
   std::size_t no_quote_from_[2] = {std::string_view::npos, std::string_view::npos};  // ' and "
   std::string out_;
-  std::vector<Open> open_;
-  int tags_ = 0, tables_ = 0, dropped_tables_ = 0;
+  HtmlNesting nesting_;
+  std::size_t style_left_ = HtmlLimits::kStyle;
 };
 
 }  // namespace

@@ -69,24 +69,25 @@ QSize HtmlView::DocumentSize() const {
 void HtmlView::Build() {
   container_->SetViewSize(size());
   document_.reset();
-  try {
-    container_->Budget().Refill();
-    document_ = litehtml::document::createFromUTF8(page_.c_str(), container_.get(), &EngineContext());
-  } catch (const LayoutTooCostly&) {
-    document_.reset();
-  }
+  container_->Budget().BeginPage();
+  document_ = litehtml::document::createFromUTF8(page_.c_str(), container_.get(), &EngineContext());
   const auto body = document_ && document_->root() ? document_->root()->select_one("body") : nullptr;
   scrollable_ = !body || body->get_overflow() != litehtml::overflow_hidden;
   LayOut();
 }
 
+void HtmlView::Render(int width) {
+  container_->Budget().BeginLayout();
+  document_->render(width);
+}
+
 void HtmlView::LayOut() {
   if (!document_) return;
   container_->SetViewSize(size());
+  laid_out_ = size();
   try {
-    container_->Budget().Refill();
-    document_->render(width());
-    if (MaxScroll() > 0) document_->render(width() - kBarWidth);
+    Render(width());
+    if (MaxScroll() > 0) Render(width() - kBarWidth);
   } catch (const LayoutTooCostly&) {
     document_.reset();
   }
@@ -164,7 +165,7 @@ void HtmlView::paintEvent(QPaintEvent*) {
 
 void HtmlView::resizeEvent(QResizeEvent*) {
   if (scroller_) scroller_->setGeometry(rect());
-  LayOut();
+  if (size() != laid_out_) LayOut();
 }
 
 void HtmlView::wheelEvent(QWheelEvent* event) { ScrollTo(scroll_ - event->angleDelta().y() * kLine / 120); }

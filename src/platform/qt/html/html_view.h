@@ -47,6 +47,7 @@ class HtmlView : public QWidget {
  private:
   void Build();
   void LayOut();
+  void Render(int width);
   void ShowScroller();
   void PlaySounds();
   void Post(bool rebuild);
@@ -60,6 +61,7 @@ class HtmlView : public QWidget {
   const std::unique_ptr<HtmlContainer> container_;
   std::shared_ptr<litehtml::document> document_;  // must end before its container
   std::string page_;                              // tidied, UTF-8
+  QSize laid_out_;                                // the size of the view that the document was laid out for
   QWidget* scroller_ = nullptr;
   bool scrollable_ = true;  // body { overflow: hidden } has no scroll bar
   bool posted_ = false, rebuild_ = false;
