@@ -4,6 +4,7 @@
 #include <litehtml/el_body.h>
 #include <litehtml/el_break.h>
 #include <litehtml/el_image.h>
+#include <litehtml/el_link.h>
 #include <litehtml/el_table.h>
 #include <litehtml/el_tr.h>
 
@@ -14,6 +15,19 @@
 
 namespace skyloft {
 namespace {
+
+// The engine trusts that parts of tables are where they belong, and a style sheet could say otherwise of any
+// tag. What to set in place of a display that would harm; null where it does not.
+const char* SafeDisplay(const std::string& tag, std::string_view display) {
+  static const std::map<std::string, const char*, std::less<>> parts = {
+      {"table", "table"},           {"caption", "table-caption"}, {"thead", "table-header-group"},
+      {"tbody", "table-row-group"}, {"tr", "table-row"},          {"tfoot", "table-footer-group"},
+      {"td", "table-cell"},         {"th", "table-cell"}};
+  if (display == "none") return nullptr;
+  const auto part = parts.find(tag);
+  if (part != parts.end()) return display == part->second ? nullptr : part->second;
+  return display == "inherit" || display.find("table") != display.npos ? "block" : nullptr;
+}
 
 // An element of the engine with our hints. Base has no mapping of its own that could contradict: its result
 // is overwritten, and the background never reaches it (it cuts addresses at a parenthesis).
@@ -51,7 +65,19 @@ class Hinted : public Base {
     }
   }
 
+  // Nothing changes under the mouse: the engine would compute the styles anew, without the hints.
+  bool set_pseudo_class(const char*, bool) override { return false; }
+
   void parse_styles(bool is_reparse) override {
+    const auto own = this->m_attrs.find("style");
+    if (own != this->m_attrs.end()) {
+      this->m_style.add(own->second.c_str(), nullptr, this);
+      this->m_attrs.erase(own);
+    }
+    const char* display = this->m_style.get_property("display");
+    if (const char* safe = SafeDisplay(this->m_tag, display ? display : "")) {
+      this->m_style.add_property("display", safe, nullptr, true, this);
+    }
     Base::parse_styles(is_reparse);
     if (background_.empty() || !this->m_bg.m_image.empty()) return;
     this->m_bg.m_image = background_;
@@ -77,17 +103,14 @@ std::shared_ptr<litehtml::element> Make(const std::shared_ptr<litehtml::document
 std::shared_ptr<litehtml::element> CreateHtmlElement(const std::string& tag,
                                                      const std::shared_ptr<litehtml::document>& document,
                                                      LayoutBudget& budget) {
-  if (!budget.SpendElement()) return std::make_shared<litehtml::html_tag>(document);
+  if (!budget.SpendElement()) return Make<litehtml::html_tag>(document, budget);
   static const std::map<std::string, Maker, std::less<>> makers = {
-      {"a", Make<litehtml::el_anchor>},    {"body", Make<litehtml::el_body>},
-      {"br", Make<litehtml::el_break>},    {"img", Make<litehtml::el_image>},
-      {"table", Make<litehtml::el_table>}, {"tr", Make<litehtml::el_tr>},
+      {"a", Make<litehtml::el_anchor>},  {"body", Make<litehtml::el_body>},
+      {"br", Make<litehtml::el_break>},  {"img", Make<litehtml::el_image>},
+      {"link", Make<litehtml::el_link>}, {"table", Make<litehtml::el_table>},
+      {"tr", Make<litehtml::el_tr>},
   };
-  // What carries no box keeps the engine's own class.
-  static constexpr const char* kEnginesOwn[] = {"style", "link", "title", "base", "script"};
-  for (const char* own : kEnginesOwn) {
-    if (tag == own) return nullptr;
-  }
+  if (tag == "style") return nullptr;
   const auto maker = makers.find(tag);
   return maker == makers.end() ? Make<litehtml::html_tag>(document, budget) : maker->second(document, budget);
 }

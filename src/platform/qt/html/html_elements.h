@@ -35,7 +35,7 @@ class LayoutBudget {
   long elements_ = kElements, selections_ = kSelections, pieces_ = kPieces, work_ = kWork;
 };
 
-// The element of a tag; empty where the class of the engine itself does (style, link). `budget` outlives the
+// The element of a tag; empty for style, where the class of the engine itself does. `budget` outlives the
 // document.
 std::shared_ptr<litehtml::element> CreateHtmlElement(const std::string& tag,
                                                      const std::shared_ptr<litehtml::document>& document,

@@ -12,7 +12,7 @@ struct HtmlLimits {
   static constexpr std::size_t kBytes = 150'000;  // of a page, and of what is made of it
   static constexpr std::size_t kStyle = 16'000;   // bytes of a page's style sheets
   static constexpr std::size_t kTags = 6'000;  // of a page; a tag inside n others counts as 1 + n * n / 128
-  static constexpr int kDepth = 60;            // open tags inside each other
+  static constexpr int kDepth = 48;            // open tags inside each other
   static constexpr int kTables = 8;            // tables inside each other: layout time grows with 3^n
   static constexpr int kColumns = 128;         // of a table row, spans counted
   static constexpr int kSpan = 64;             // colspan and rowspan, at least 1

@@ -10,6 +10,13 @@
 namespace skyloft::testing {
 namespace {
 
+// The sanitizers' memory management takes several times as long.
+#ifdef __SANITIZE_ADDRESS__
+constexpr double kSeconds = 4;
+#else
+constexpr double kSeconds = 1;
+#endif
+
 std::string Repeat(std::string_view text, int count) {
   std::string all;
   while (count-- > 0) all += text;
@@ -59,6 +66,12 @@ const HostilePage kPages[] = {
      }},
     {"ManyFloats",
      [] { return Repeat("<img align=left width=10 height=10>", 5'000) + Repeat("word ", 20'000); }},
+    {"TablePartsElsewhere",
+     [] {
+       return "<style>*{display:table-cell}</style>" +
+              Repeat("<div style='display:table-row'><p style='display:inherit'>x", 20) +
+              "<table><tr style='display:block'><td style='display:inline'>x";
+     }},
     {"ManyLines", [] { return "<pre>" + Repeat("x\n", 200'000); }},
     {"ManyBreaks", [] { return Repeat("<br>", 100'000); }},
     {"ManyEntities", [] { return Repeat("&#147;&#xFFFFFFFFFF;&", 50'000); }},
@@ -82,7 +95,7 @@ TEST_P(HtmlHostile, IsShownInTime) {
   const std::clock_t start = std::clock();
   view.SetDocument(page);
   Grab(view);
-  EXPECT_LT(static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC, 1.0);
+  EXPECT_LT(static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC, kSeconds);
   view.SetDocument("<body bgcolor=red>");  // and it goes on
   EXPECT_EQ(Count(Grab(view), Qt::red), 600 * 400);
 }

@@ -82,6 +82,19 @@ TEST_F(HtmlViewTest, LinkIsPostedAndClickTold) {
   EXPECT_EQ(opened_.size(), 1u);
 }
 
+TEST_F(HtmlViewTest, LinkUnderTheMouseKeepsItsLookAndChangesTheCursor) {
+  const auto view = MakeView(
+      "<style>a:hover{font-weight:bold}</style><body topmargin=0 leftmargin=0><a href='x'><font "
+      "color=#ff0000>MMMMMMMM</font></a>");
+  const QImage before = Grab(*view);
+  EXPECT_EQ(view->cursor().shape(), Qt::ArrowCursor);
+  QMouseEvent move(QEvent::MouseMove, QPointF(20, 8), QPointF(20, 8), Qt::NoButton, Qt::NoButton,
+                   Qt::NoModifier);
+  QApplication::sendEvent(view.get(), &move);
+  EXPECT_EQ(Grab(*view), before);
+  EXPECT_EQ(view->cursor().shape(), Qt::PointingHandCursor);
+}
+
 TEST_F(HtmlViewTest, ClickMayEndTheView) {
   auto view = MakeView("<a href=x>MMMM</a>");
   view->clicked = [&] { view.reset(); };
