@@ -15,8 +15,10 @@ namespace skyloft::feed {
 namespace {
 
 constexpr int kHistoryRows = 48, kHourlyRows = 66, kExtendedRows = 25;
-constexpr int kPeriodHours = 12;
-constexpr std::int64_t kRunSeconds = 6 * 3600, kRunDelaySeconds = 3 * 3600, kObservationSeconds = 20 * 60;
+constexpr std::int64_t kPeriodHours = 12;
+constexpr std::int64_t kMinute = 60, kHour = 60 * kMinute;  // seconds
+constexpr std::int64_t kRunSeconds = 6 * kHour, kRunDelaySeconds = 3 * kHour,
+                       kObservationSeconds = 20 * kMinute;
 
 Date FloorTo(Date date, std::int64_t seconds) { return {date.seconds - date.seconds % seconds}; }
 Date AddHours(Date date, std::int64_t hours) { return DateAdd(DateUnit::Hours, hours, date); }
@@ -48,8 +50,8 @@ Moment ForecastAt(const Spot& spot, Date gmt, std::uint64_t seed) {
 Date ObservationTime(const Spot& spot, Date now) {
   const auto phase =
       static_cast<std::int64_t>(std::abs(spot.point.latitude * 7000 + spot.point.longitude * 3000)) % 20;
-  const Date shifted = FloorTo({now.seconds - phase * 60}, kObservationSeconds);
-  return {shifted.seconds + phase * 60};
+  const Date shifted = FloorTo({now.seconds - phase * kMinute}, kObservationSeconds);
+  return {shifted.seconds + phase * kMinute};
 }
 
 // The newest run of the model that is done.
@@ -79,7 +81,7 @@ std::string CurrentXml(const std::vector<Spot>& spots, Date now, std::uint64_t s
 std::string HistoryXml(const std::vector<Spot>& spots, Date now, std::uint64_t seed) {
   XmlDocument xml("historical");
   for (const Spot& spot : spots) {
-    const Date newest = FloorTo(ObservationTime(spot, now), 3600);
+    const Date newest = FloorTo(ObservationTime(spot, now), kHour);
     for (int i = 0; i < kHistoryRows; ++i)
       AddRow(xml, ReadingAt(spot, AddHours(newest, -i), seed), kHistoryTags);
   }
@@ -113,7 +115,8 @@ std::string SingleHourXml(const std::vector<Spot>& spots, std::string_view hour_
 // the middle when all are dry.
 void AddPeriod(XmlDocument& xml, const Spot& spot, Date end, std::uint64_t seed) {
   std::vector<Moment> hours;
-  for (int i = kPeriodHours - 1; i >= 0; --i) hours.push_back(ForecastAt(spot, AddHours(end, -i), seed));
+  for (std::int64_t i = kPeriodHours - 1; i >= 0; --i)
+    hours.push_back(ForecastAt(spot, AddHours(end, -i), seed));
   const auto temperature = [](const Moment& m) { return m.weather.temperature; };
   const auto water = [](const Moment& m) { return m.weather.rain + m.weather.snow / 10; };
   const Moment& wettest = *std::ranges::max_element(hours, {}, water);
@@ -134,7 +137,7 @@ void AddPeriod(XmlDocument& xml, const Spot& spot, Date end, std::uint64_t seed)
 
 std::string ExtendedXml(const std::vector<Spot>& spots, Date now, std::uint64_t seed) {
   XmlDocument xml("extended");
-  const Date first = AddHours(FloorTo(ModelRun(now), kPeriodHours * 3600), kPeriodHours);
+  const Date first = AddHours(FloorTo(ModelRun(now), kPeriodHours * kHour), kPeriodHours);
   for (const Spot& spot : spots) {
     for (int i = 0; i < kExtendedRows; ++i) AddPeriod(xml, spot, AddHours(first, i * kPeriodHours), seed);
   }

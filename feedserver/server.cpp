@@ -179,7 +179,8 @@ class Server::Http : public httplib::Server {
     current_connection->Befall(fault);
     WriteLog(request, asked, reply, fault);
     response.status = reply.status;
-    response.set_content(std::move(reply.body), reply.type);
+    response.body = std::move(reply.body);
+    response.set_header("Content-Type", reply.type);
   }
 
   Reply AnswerOrFail(const httplib::Request& request, const Request& asked) const {

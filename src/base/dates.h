@@ -11,7 +11,7 @@ namespace skyloft {
 // A moment as seconds since 30 December 1899 00:00:00, the day whose dates print as a time alone.
 struct Date {
   std::int64_t seconds = 0;
-  auto operator<=>(const Date&) const = default;
+  auto operator<=>(const Date&) const = default;  // NOLINT(modernize-use-nullptr): sees a 0 in "<=>"
 };
 
 // Calendar fields. month 1 to 12, day 1 to 31, hour 0 to 23; weekday 1 is Sunday, 7 Saturday.

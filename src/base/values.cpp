@@ -108,7 +108,9 @@ double StrictNumber(std::string_view text) {
 
 std::string NumberText(double number) {
   if (!std::isfinite(number)) throw RuntimeError("no finite number");
-  if (number == 0) return "0";  // also of the negative zero
+  // Whole numbers are the most and the cheapest; the negative zero is one of them.
+  if (std::abs(number) < 1e15 && number == std::trunc(number))
+    return std::to_string(static_cast<long long>(number));
   std::array<char, 40> buffer;
   const auto result =
       std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::general, 15);

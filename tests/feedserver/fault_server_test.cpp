@@ -50,8 +50,8 @@ TEST(FaultyServer, StatusEmptyAndGarbage) {
 
 TEST(FaultyServer, HangKeepsNobodyElseWaiting) {
   RunningServer server(WithFault("/forecast.asp=hang"));
-  std::vector<std::unique_ptr<Client>> hanging;
-  for (int i = 0; i < 40; ++i) hanging.push_back(std::make_unique<Client>(server.Port(), kTarget));
+  std::vector<std::unique_ptr<Client>> hanging(40);
+  for (auto& client : hanging) client = std::make_unique<Client>(server.Port(), kTarget);
   EXPECT_TRUE(Get(server.Port(), "/bulletins.asp").starts_with("HTTP/1.1 200"));
   EXPECT_EQ(hanging.front()->Receive(milliseconds(300)), "");
   EXPECT_FALSE(hanging.front()->IsClosed());

@@ -27,6 +27,7 @@ class RunningServer {
     EXPECT_EQ(pipe2(input, O_CLOEXEC), 0);
     EXPECT_EQ(pipe2(output, O_CLOEXEC), 0);
     std::vector<char*> argv;
+    argv.reserve(arguments.size() + 1);
     for (std::string& argument : arguments) argv.push_back(argument.data());
     argv.push_back(nullptr);
     process_ = fork();

@@ -125,8 +125,8 @@ TEST(Server, ServesAnUpdate) {
 
 TEST(Server, BurstOfConnectionsIsAnswered) {
   RunningServer server({"--port", "0"});
-  std::vector<std::unique_ptr<Client>> clients;
-  for (int i = 0; i < 200; ++i) clients.push_back(std::make_unique<Client>(server.Port(), "/bulletins.asp"));
+  std::vector<std::unique_ptr<Client>> clients(200);
+  for (auto& client : clients) client = std::make_unique<Client>(server.Port(), "/bulletins.asp");
   for (const auto& client : clients) EXPECT_TRUE(client->Receive().starts_with("HTTP/1.1 200"));
 }
 
