@@ -10,26 +10,25 @@
 namespace skyloft {
 namespace {
 
-constexpr const char* kEnd = "\r\n";
-
-std::string Lines(std::initializer_list<std::string> lines) {
+// Fragments follow each other directly; their leading blanks belong to them.
+std::string Join(std::initializer_list<std::string> fragments) {
   std::string text;
-  for (const std::string& line : lines) text += line + kEnd;
+  for (const std::string& fragment : fragments) text += fragment;
   return text;
 }
 
-// The head of the conditions pages, up to the table's first row.
+// The head of the small pages, up to the table's first row.
 std::string PageHead(const std::string& title) {
-  const std::string rule = "font-family: Tahoma; font-size: 11px;";
-  return Lines({
+  const std::string rule = "{font-family: Tahoma;font-size: 11px;}";
+  return Join({
       "<html>",
       "<head>",
       "<meta http-equiv='Content-Type' content='text/html; charset=windows-1252'>",
       "<title>" + title + "</title>",
-      "<style>",
+      "<style type='text/css'>",
       "body { overflow:hidden; }",
-      "TD { " + rule + " }",
-      "P { " + rule + " }",
+      "TD" + rule,
+      "P" + rule,
       "</style>",
       std::string("<link rel='stylesheet' type='text/css' href='") + kStyleSheet + "'>",
       "</head>",
@@ -40,7 +39,7 @@ std::string PageHead(const std::string& title) {
 }
 
 std::string PageFoot() {
-  return Lines({"       </FONT></P></TD>", "    </tr>", "  </table>", "</div>", "</body>", "</html>"});
+  return Join({"       </FONT></P></TD>", "    </tr>", "  </table>", "</div>", "</body>", "</html>"});
 }
 
 }  // namespace
@@ -49,7 +48,7 @@ std::string BuildCurrentConditionsPage() {
   const int slot = SelectedLocation();
   const ObservationTables& reading = ObservationRecord;
   return PageHead("Current Conditions Reported At") +
-         Lines({
+         Join({
              "    <tr>",
              "          <TD vAlign=center align=middle bgColor=#ffffcc><B>Current",
              "            Conditions</B></BR></font></TD>",

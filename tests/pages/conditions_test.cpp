@@ -29,37 +29,29 @@ class ConditionsPage : public Station {
   }
 };
 
-std::string Lines(std::initializer_list<std::string> lines) {
-  std::string text;
-  for (const auto& line : lines) text += line + "\r\n";
-  return text;
-}
-
-// The page by its fragments, with the values of the reading above in their places.
-std::string ExpectedPage() {
-  return Lines({"<html>", "<head>",
-                "<meta http-equiv='Content-Type' content='text/html; charset=windows-1252'>",
-                "<title>Current Conditions Reported At</title>", "<style>", "body { overflow:hidden; }",
-                "TD { font-family: Tahoma; font-size: 11px; }", "P { font-family: Tahoma; font-size: 11px; }",
-                "</style>", std::string("<link rel='stylesheet' type='text/css' href='") + kStyleSheet + "'>",
-                "</head>", "<body topmargin='0' leftmargin='0' bgcolor='#000000'>", "<div align='left'>",
-                "  <table border='0' width='150' cellspacing='0' cellpadding='2'>"}) +
-         Lines({"    <tr>", "          <TD vAlign=center align=middle bgColor=#ffffcc><B>Current",
-                "            Conditions</B></BR></font></TD>", "    </tr>", "    <tr>"}) +
-         Lines({"          <TD bgColor=#003399",
-                "            <P align=center><FONT color=#ffffff><IMG height=30",
-                "            src='file:C:\\program files\\skyloft\\icons\\sprtcloud.gif' width=40 "
-                "align=absMiddle "
-                "border=0>  <B>partly cloudy",
-                "            <BR>Temperature</B>: 68 F<B><BR>Dewpoint</B>: 50 F<B><BR>Feels",
-                "            Like</B>: 67 F<B><BR>Humidity</B>: 55 %<B><BR>Wind</B>: SSW 12 mph",
-                "            <BR><B>Pressure</B>: 29.92 in<BR><B>Visibility</B>: 10 mi"}) +
-         Lines({"       </FONT></P></TD>", "    </tr>", "  </table>", "</div>", "</body>", "</html>"});
-}
+// The page by its fragments, which follow each other directly, with the values of the reading above.
+const std::string kExpectedPage =
+    std::string("<html>") + "<head>" +
+    "<meta http-equiv='Content-Type' content='text/html; charset=windows-1252'>" +
+    "<title>Current Conditions Reported At</title>" + "<style type='text/css'>" +
+    "body { overflow:hidden; }" + "TD" + "{" + "font-family: Tahoma;" + "font-size: 11px;" + "}" + "P" + "{" +
+    "font-family: Tahoma;" + "font-size: 11px;" + "}" + "</style>" +
+    "<link rel='stylesheet' type='text/css' href='" + kStyleSheet + "'>" + "</head>" +
+    "<body topmargin='0' leftmargin='0' bgcolor='#000000'>" + "<div align='left'>" +
+    "  <table border='0' width='150' cellspacing='0' cellpadding='2'>" + "    <tr>" +
+    "          <TD vAlign=center align=middle bgColor=#ffffcc><B>Current" +
+    "            Conditions</B></BR></font></TD>" + "    </tr>" + "    <tr>" +
+    "          <TD bgColor=#003399" + "            <P align=center><FONT color=#ffffff><IMG height=30" +
+    "            src='file:" + "C:\\program files\\skyloft\\icons\\sprtcloud.gif" +
+    "' width=40 align=absMiddle border=0>  <B>" + "partly cloudy" +
+    "            <BR>Temperature</B>: " + "68" + " F<B><BR>Dewpoint</B>: " + "50" + " F<B><BR>Feels" +
+    "            Like</B>: " + "67" + " F<B><BR>Humidity</B>: " + "55" + " %<B><BR>Wind</B>: " + "SSW" + " " +
+    "12" + " mph" + "            <BR><B>Pressure</B>: " + "29.92" + " in" + "<BR><B>Visibility</B>: " + "10" +
+    " mi" + "       </FONT></P></TD>" + "    </tr>" + "  </table>" + "</div>" + "</body>" + "</html>";
 
 TEST_F(ConditionsPage, TheCurrentPageIsBuiltOfItsFragments) {
   SetUpReading();
-  EXPECT_EQ(BuildCurrentConditionsPage(), ExpectedPage());
+  EXPECT_EQ(BuildCurrentConditionsPage(), kExpectedPage);
 }
 
 TEST_F(ConditionsPage, AVariableWindPrintsWithItsSpeedLikeAnyOther) {
@@ -84,7 +76,7 @@ TEST_F(ConditionsPage, CurrentConditionsShowsTitleAndPageOfTheSelectedLocation) 
   SetUpReading();
   CurrentConditions();
   EXPECT_EQ(MainForm.LocationLabel.Caption.Get(), "Town 1");
-  EXPECT_EQ(MainForm.WeatherConditionsBanner.Document.Get(), ExpectedPage());
+  EXPECT_EQ(MainForm.WeatherConditionsBanner.Document.Get(), kExpectedPage);
 }
 
 TEST_F(ConditionsPage, WithoutALocationTheCallerGetsTheError) {

@@ -30,7 +30,7 @@ void FillMenu(QMenu& menu, const Form& form, const Control& container) {
       continue;
     }
     QAction* action = menu.addAction(ToQt(entry->Caption));
-    action->setEnabled(entry->Enabled);
+    action->setEnabled(entry->Enabled && entry->Click);
     action->setCheckable(entry->Checked);
     action->setChecked(entry->Checked);
     QObject::connect(action, &QAction::triggered, action, [entry] { Raise([&] { entry->Press(); }); });
