@@ -24,12 +24,13 @@ namespace {
 
 void DrawAll(const QString& share) {
   const auto folder = [&](const char* name) {
-    const QString path = share + "/" + name;
+    QString path = share + "/" + name;
     if (!QDir().mkpath(path)) throw std::runtime_error("cannot make " + path.toStdString());
     return path;
   };
   DrawButtons(folder("icons"));
   DrawSkyIcons(folder("icons"));
+  DrawHorizonIcons(folder("icons"));
   DrawTrayIcons(folder("icons"));
   DrawBackgrounds(folder("backgrounds"));
   DrawSkin(folder("skin"));

@@ -45,6 +45,7 @@ void WriteBytes(const QString& path, const QByteArray& bytes);
 // Each fills one folder.
 void DrawButtons(const QString& icons);
 void DrawSkyIcons(const QString& icons);
+void DrawHorizonIcons(const QString& icons);
 void DrawTrayIcons(const QString& icons);
 void DrawBackgrounds(const QString& backgrounds);
 void DrawSkin(const QString& skin);

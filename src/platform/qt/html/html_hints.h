@@ -18,6 +18,12 @@ struct StyleHint {
 // the parents of the element must be known.
 std::vector<StyleHint> HintsOf(const litehtml::html_tag& element);
 
+// An attribute without the blanks around it; "" when there is none.
+std::string AttributeOf(const litehtml::element& element, const char* name);
+
+// A number of pixels as a style sheet writes it, never negative: "5" is "5px". "" for "".
+std::string PixelsHint(const std::string& text);
+
 // A colour attribute as a style sheet writes it: "000000" and "#000000" are black, names stay. "" for none.
 std::string ColorHint(std::string_view text);
 

@@ -35,7 +35,7 @@ QImage ReadLocalPicture(const QString& file) {
   }
   QFile source(file);
   if (!source.open(QIODevice::ReadOnly)) return {};
-  const QImage picture = DecodeHtmlPicture(source.read(kMaxFile));
+  QImage picture = DecodeHtmlPicture(source.read(kMaxFile));
   cache.insert(file, new LocalPicture{info.lastModified(), picture},
                1 + static_cast<int>(picture.sizeInBytes() / 1000));
   return picture;
