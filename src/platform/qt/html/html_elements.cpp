@@ -8,8 +8,10 @@
 #include <litehtml/el_table.h>
 #include <litehtml/el_tr.h>
 
+#include <algorithm>
 #include <functional>
 #include <map>
+#include <vector>
 
 #include "platform/qt/html/html_hints.h"
 
@@ -89,13 +91,79 @@ class Hinted : public Base {
   std::string background_;
 };
 
+// The engine takes the widths of cells for the least they need, so cells that ask for more than there is make
+// their table wider than it says. This one takes the excess from the columns that are wider than their
+// content.
+class FittingTable : public Hinted<litehtml::el_table> {
+ public:
+  using Hinted::Hinted;
+
+  int render(int x, int y, int max_width, bool second_pass) override {
+    int result = Hinted::render(x, y, max_width, second_pass);
+    const litehtml::css_length wanted = get_css_width();
+    if (wanted.is_predefined() || wanted.units() != litehtml::css_units_px) return result;
+    for (int tries = 0; tries < 4; ++tries) {
+      const int excess = m_pos.width + m_padding.width() + m_borders.width() - static_cast<int>(wanted.val());
+      if (excess <= 0 || !Narrow(excess)) break;
+      result = Hinted::render(x, y, max_width, second_pass);
+    }
+    return result;
+  }
+
+ private:
+  // The width that the cells of a column ask for; 0 when they ask for none or their content needs it all.
+  int SpareOf(int column) {
+    int asked = 0;
+    for (int row = 0; row < m_grid->rows_count(); ++row) {
+      const litehtml::table_cell* cell = m_grid->cell(column, row);
+      if (!cell || !cell->el || cell->colspan > 1) continue;
+      const litehtml::css_length width = cell->el->get_css_width();
+      if (!width.is_predefined() && width.units() == litehtml::css_units_px) {
+        asked = std::max(asked, static_cast<int>(width.val()));
+      }
+    }
+    return m_grid->column(column).width <= asked ? asked : 0;
+  }
+
+  void SetWidth(int column, int pixels) {
+    litehtml::css_length width;
+    width.set_value(static_cast<float>(std::max(1, pixels)), litehtml::css_units_px);
+    m_grid->column(column).css_width = width;  // what the grid took from the cells at first
+    for (int row = 0; row < m_grid->rows_count(); ++row) {
+      const litehtml::table_cell* cell = m_grid->cell(column, row);
+      if (cell && cell->el && cell->colspan <= 1) cell->el->set_css_width(width);
+    }
+  }
+
+  // False when no column can give anything.
+  bool Narrow(int excess) {
+    if (!m_grid) return false;
+    std::vector<std::pair<int, int>> spare;  // column, width
+    for (int column = 0; column < m_grid->cols_count(); ++column) {
+      if (const int asked = SpareOf(column); asked > 1) spare.emplace_back(column, asked);
+    }
+    const int count = static_cast<int>(spare.size());
+    for (int i = 0; i < count; ++i) {
+      const auto [column, asked] = spare[static_cast<std::size_t>(i)];
+      SetWidth(column, asked - excess / count - (i < excess % count ? 1 : 0));
+    }
+    return count > 0;
+  }
+};
+
 using Maker = std::shared_ptr<litehtml::element> (*)(const std::shared_ptr<litehtml::document>&,
                                                      LayoutBudget&);
+
+template <class Element>
+std::shared_ptr<litehtml::element> MakeOwn(const std::shared_ptr<litehtml::document>& document,
+                                           LayoutBudget& budget) {
+  return std::make_shared<Element>(document, budget);
+}
 
 template <class Base>
 std::shared_ptr<litehtml::element> Make(const std::shared_ptr<litehtml::document>& document,
                                         LayoutBudget& budget) {
-  return std::make_shared<Hinted<Base>>(document, budget);
+  return MakeOwn<Hinted<Base>>(document, budget);
 }
 
 }  // namespace
@@ -105,9 +173,8 @@ std::shared_ptr<litehtml::element> CreateHtmlElement(const std::string& tag,
                                                      LayoutBudget& budget) {
   if (!budget.SpendElement()) return Make<litehtml::html_tag>(document, budget);
   static const std::map<std::string, Maker, std::less<>> makers = {
-      {"a", Make<litehtml::el_anchor>},  {"body", Make<litehtml::el_body>},
-      {"br", Make<litehtml::el_break>},  {"img", Make<litehtml::el_image>},
-      {"link", Make<litehtml::el_link>}, {"table", Make<litehtml::el_table>},
+      {"a", Make<litehtml::el_anchor>},  {"body", Make<litehtml::el_body>}, {"br", Make<litehtml::el_break>},
+      {"img", Make<litehtml::el_image>}, {"link", Make<litehtml::el_link>}, {"table", MakeOwn<FittingTable>},
       {"tr", Make<litehtml::el_tr>},
   };
   if (tag == "style") return nullptr;

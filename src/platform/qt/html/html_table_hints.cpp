@@ -56,39 +56,13 @@ bool IsCentered(const litehtml::html_tag& table) {
   return false;
 }
 
-// The pixels that a cell asks for in a table `inner` pixels wide; 0 for none.
-int WishedPixels(const litehtml::element& cell, int inner) {
-  const std::string width = AttributeOf(cell, "width");
-  const int number = std::max(0, std::atoi(width.c_str()));
-  return !width.empty() && width.back() == '%' ? inner * std::min(number, 100) / 100 : number;
-}
-
-// The width of a cell of a table whose width is known: what it asks for, less when its row asks for more than
-// there is, so that the table keeps its width. 0 leaves it to the engine.
-int CellPixels(const litehtml::html_tag& cell, const litehtml::element& table) {
-  const std::string width = AttributeOf(table, "width");
-  const auto row = cell.parent();
-  if (!row || std::atoi(width.c_str()) <= 0 || width.back() == '%' || AttributeOf(cell, "width").empty())
-    return 0;
-  int columns = 0;
-  for (int i = 0; i < static_cast<int>(row->get_children_count()); ++i) {
-    if (row->get_child(i)->get_display() == litehtml::display_inline_text) continue;
-    columns += std::max(1, std::atoi(row->get_child(i)->get_attr("colspan", "1")));
-  }
-  const int spacing = std::atoi(table.get_attr("cellspacing", "2"));
-  const int inner = std::max(1, std::atoi(width.c_str()) - 2 * BorderOf(table) - (columns + 1) * spacing);
-  int wished = 0, before = 0;  // by all cells of the row, and by those left of this one
-  for (int i = 0; i < static_cast<int>(row->get_children_count()); ++i) {
-    const auto sibling = row->get_child(i);
-    if (sibling.get() == &cell) before = wished;
-    wished += WishedPixels(*sibling, inner);
-  }
-  const int own = WishedPixels(cell, inner);
-  if (wished <= inner) return own;
-  const auto scaled = [&](int pixels) {
-    return static_cast<int>(static_cast<long>(pixels) * inner / wished);
-  };
-  return scaled(before + own) - scaled(before);  // so that the rounded widths add up
+// The share of a cell in a table whose width is known; 0 leaves it to the engine, whose own percentages miss
+// the width of the table by the borders. Where the cells ask for too much, the table takes it from them.
+int SharePixels(const litehtml::html_tag& cell, const litehtml::element& table) {
+  const std::string share = AttributeOf(cell, "width"), width = AttributeOf(table, "width");
+  if (share.empty() || share.back() != '%' || width.empty() || width.back() == '%') return 0;
+  const int inner = std::max(0, std::atoi(width.c_str()) - 2 * BorderOf(table));
+  return inner * std::clamp(std::atoi(share.c_str()), 0, 100) / 100;
 }
 
 }  // namespace
@@ -108,7 +82,7 @@ void AddCellHints(std::vector<StyleHint>& hints, const litehtml::html_tag& cell)
   if (BorderOf(*table) && !IsEmpty(cell)) AddBorder(hints, *table, 1, false);
   const std::string padding = PixelsHint(AttributeOf(*table, "cellpadding"));
   if (!padding.empty()) hints.push_back({"padding", padding});
-  if (const int width = CellPixels(cell, *table)) hints.push_back({"width", std::to_string(width) + "px"});
+  if (const int width = SharePixels(cell, *table)) hints.push_back({"width", std::to_string(width) + "px"});
 }
 
 }  // namespace skyloft

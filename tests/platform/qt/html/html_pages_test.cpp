@@ -126,17 +126,21 @@ TEST(HtmlPages, BorderColorOfTheTableIsThatOfAllLines) {
   EXPECT_EQ(image.pixelColor(49, 10), QColor(Qt::red));
 }
 
-// Thirteen columns as in the hourly planner: 5 and 12 times 8 percent are more than all.
+// Thirteen columns as in the hourly planner: 5 and 12 times 8 percent are more than all, and 4 percent are
+// less than the label of the row needs.
 TEST(HtmlPages, TableKeepsItsWidthWhenItsCellsAskForMore) {
   for (const char* border : {"0", "1"}) {
-    std::string page =
-        "<body bgcolor=#000000 topmargin=0 leftmargin=5><table width=540 cellspacing=0 cellpadding=0 "
-        "bgcolor=#ffffff bordercolor=#ffffff border=" +
-        std::string(border) + "><tr><td width='5%'>a</td>";
-    for (int i = 0; i < 12; ++i) page += "<td width='8%'>b</td>";
-    const QRect table = Extent(Show(page + "</table>", {600, 100}), Qt::white);
-    EXPECT_EQ(table.left(), 5);
-    EXPECT_EQ(table.width(), 540) << border;
+    for (const char* share : {"4%", "5%", "30"}) {
+      std::string page =
+          "<style>td{font:11px Tahoma}</style><body bgcolor=#000000 topmargin=0 leftmargin=5><table "
+          "width=540 "
+          "cellspacing=0 cellpadding=0 bgcolor=#ffffff bordercolor=#ffffff border=" +
+          std::string(border) + "><tr><td colspan=13>x</td></tr><tr><td width='" + share + "'>Fslk</td>";
+      for (int i = 0; i < 12; ++i) page += "<td width='8%'><img src=x width=40 height=30></td>";
+      const QRect table = Extent(Show(page + "</table>", {600, 100}), Qt::white);
+      EXPECT_EQ(table.left(), 5);
+      EXPECT_EQ(table.width(), 540) << border << " " << share;
+    }
   }
 }
 
