@@ -2,7 +2,9 @@
 
 #include "alerts/bulletins.h"
 #include "alerts/personal_alerts.h"
+#include "core/chrome.h"
 #include "core/mainform.h"
+#include "feed/catalogues.h"
 #include "feed/forecast.h"
 #include "feed/hosts.h"
 #include "feed/observations.h"
@@ -12,6 +14,7 @@
 #include "forms/main_form.h"
 #include "forms/menu_form.h"
 #include "forms/setup_wizard_form.h"
+#include "forms/system_font_form.h"
 #include "forms/system_options_form.h"
 #include "forms/ticker_form.h"
 #include "settings/location_profiles.h"
@@ -26,6 +29,7 @@ Station::Station() {
   TickerForm = {};
   SetupWizardForm = {};
   SystemOptionsForm = {};
+  SystemFontForm = {};
   MenuForm = {};
   Doubles = {};
   Settings = {};
@@ -42,6 +46,8 @@ Station::Station() {
   Bulletins = {};
   PersonalAlertsState = {};
   Start = {};
+  Chrome = {};
+  Catalogues = {};
   HostAddress.WebHost = "www.skyloft.example";
   HostTable.forecastserver = "forecast.skyloft.example/";
   ApplySkin();

@@ -2,12 +2,18 @@
 
 #include "base/guard.h"
 #include "base/values.h"
+#include "feed/catalogues.h"
 #include "feed/xml_readers.h"
 #include "forms/forms.h"
+#include "forms/setup_wizard_form.h"
 #include "platform/pictures.h"
+#include "settings/settings.h"
 #include "setup/menu.h"
 
 namespace skyloft {
+
+ChromeState Chrome;
+
 namespace {
 
 constexpr const ImageButtonState* kButtons[] = {
@@ -38,12 +44,28 @@ void ConnectPresses(const ImageButtonState& state) {
   button.MouseUp = [&state] { state("", "", IconPath(state.normal)); };
 }
 
+// Help is a page of the product browser.
+void ShowHelp() {
+  Guarded([] {
+    MainForm.CategorySelection.Select(Catalogues.SupportCategoryIndex);
+    MainForm.Visible = true;
+  });
+}
+
+// The legend goes or comes on the press already.
+void ToggleLegend() {
+  LegendButtonState("", "", IconPath(LegendButtonState.pressed));
+  Settings.LegendFlag = Settings.LegendFlag == 0 ? 1 : 0;
+  MainForm.Legend.Visible = Settings.LegendFlag == 0;
+}
+
 int Pixels(double twips) { return static_cast<int>(RoundHalfEven(Divide(twips, kTwipsPerPixel))); }
 
 }  // namespace
 
 void ImageButtonState::operator()(const std::string& enabled, const std::string& visible,
                                   const std::string& picture) const {
+  if (!button) return;
   ImageButton& control = MainForm.*button;
   SetFlag(control.Enabled, enabled);
   SetFlag(control.Visible, visible);
@@ -58,6 +80,13 @@ RoundRegion CreateWindowRegion(int width, int height, double x_scale, double y_s
           .bottom = Pixels(height * y_scale * 15) + y_offset,
           .corner_width = Pixels(x_scale * 110 * 15),
           .corner_height = Pixels(y_scale * 96 * 15)};
+}
+
+void ShowAgain() {
+  const bool first_run = SetupWizardForm.Visible && Settings.LocationIndexMax.empty();
+  Form& form = first_run ? static_cast<Form&>(SetupWizardForm) : static_cast<Form&>(MainForm);
+  form.Visible = true;
+  ActivateWindow(form);
 }
 
 void ShowSevereButtons() {
@@ -78,10 +107,13 @@ void ConnectChrome() {
     SetFirstState(*state);
     ConnectPresses(*state);
   }
+  MainForm.LegendButton.MouseDown = ToggleLegend;
+  MainForm.HelpButton.Click = ShowHelp;
   MainForm.ExitButton.Click = [] { MainForm.Visible = false; };
   MainForm.MenuButton.Click = OpenMainMenu;
   MainForm.MouseDown = [](const MousePress&) { StartWindowDrag(MainForm); };
   MainForm.Unload = [] { MainForm.Visible = false; };
+  MainForm.LostFocus = [] { Chrome.MainWindow.SetTopMost(false); };
 }
 
 }  // namespace skyloft

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "core/class1.h"
 #include "forms/main_form.h"
 #include "platform/window.h"
 
@@ -12,6 +13,13 @@ namespace skyloft {
 // is meant; the corners are ellipses 110 wide and 96 high.
 RoundRegion CreateWindowRegion(int width, int height, double x_scale, double y_scale, int x_offset,
                                int y_offset);
+
+// The style objects of the two windows that have one; attached at start-up.
+struct ChromeState {
+  Class1 MainWindow;
+  Class1 TickerWindow;
+};
+extern ChromeState Chrome;
 
 // One image button: the procedure that sets its state, and its pictures under \icons\ ("" where it has none).
 // Calling it sets what is not empty: the flags by "True" or "False", the picture by the path of a file, which
@@ -60,10 +68,18 @@ inline constexpr ImageButtonState ThunderstormButtonState{&MainFormControls::Thu
 inline constexpr ImageButtonState FloodButtonState{&MainFormControls::FloodButton, "flood.gif", "",
                                                    "floodd.gif"};
 
+// Without a control and without a caller.
+inline constexpr ImageButtonState MinimizeButtonState{nullptr, "minimize.gif", "minimizer.gif", ""};
+inline constexpr ImageButtonState RouteScopeRoadButtonState{nullptr, "", "", ""};
+
+// Brings the program back for a second start of it: the main window, or the wizard of a first run.
+void ShowAgain();
+
 // Makes the severe buttons and their labels visible.
 void ShowSevereButtons();
 
-// Gives the buttons their first pictures and their presses, and the window its drag and its close request.
+// Gives the buttons their first pictures, their presses and the clicks that belong to the window itself, and
+// the window its drag by any mouse button and its close request, which only hides it.
 void ConnectChrome();
 
 }  // namespace skyloft

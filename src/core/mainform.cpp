@@ -19,6 +19,7 @@
 #include "forms/forms.h"
 #include "forms/initializing_form.h"
 #include "forms/main_form.h"
+#include "forms/system_font_form.h"
 #include "forms/system_options_form.h"
 #include "forms/ticker_form.h"
 #include "platform/files.h"
@@ -99,7 +100,7 @@ void ShowTicker() {
   if (!alert) TickerDisplay();
   if (!SystemOptionsForm.ShowTicker.Checked) return;
   TickerForm.Visible = true;
-  if (SystemOptionsForm.AlwaysOnTop.Checked) TickerForm.TopMost = true;
+  if (SystemOptionsForm.AlwaysOnTop.Checked) Chrome.TickerWindow.SetTopMost(true);
 }
 
 // With locations: the steps under the splash, then the ticker and the timers.
@@ -142,14 +143,23 @@ void ConnectForms() {
   ConnectSelection();
   ConnectWizard();
   ConnectMenu();
+  SystemFontForm.OKButton.Click = EndProcess;
+  SystemFontForm.Unload = EndProcess;
   InitializingForm.EmailLink.Click = [] { OpenLink(kSupportMail); };
 }
 
 void LoadMainForm() {
   const bool whole = Guarded([] {
     SetInstallPath();
+    if (DotsPerInch() != 96) {
+      SystemFontForm.Visible = true;
+      EndStart();
+      return;
+    }
     CheckHosts(0);
     ShapeWindow();
+    Chrome.MainWindow.SetClient(&MainForm);
+    Chrome.TickerWindow.SetClient(&TickerForm);
     LoadSystem();
     TickerForm.Ticker.Document = kBlankPage;
     TickerForm.Height = kTickerHeight;

@@ -2,6 +2,8 @@
 
 namespace skyloft {
 
+CatalogueState Catalogues;
+
 void GetSectorData() {}
 void GetProductData() {}
 void GetAvailableCategories() {}

@@ -3,6 +3,11 @@
 
 namespace skyloft {
 
+struct CatalogueState {
+  int SupportCategoryIndex = 0;  // place of "Technical Support" in CategorySelection
+};
+extern CatalogueState Catalogues;
+
 // Fetch the catalogues of the model run. Do nothing yet.
 void GetSectorData();
 void GetProductData();

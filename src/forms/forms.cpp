@@ -4,6 +4,7 @@
 #include "forms/main_form.h"
 #include "forms/menu_form.h"
 #include "forms/setup_wizard_form.h"
+#include "forms/system_font_form.h"
 #include "forms/system_options_form.h"
 #include "forms/ticker_form.h"
 
@@ -14,11 +15,12 @@ InitializingFormControls InitializingForm;
 TickerFormControls TickerForm;
 SetupWizardFormControls SetupWizardForm;
 SystemOptionsFormControls SystemOptionsForm;
+SystemFontFormControls SystemFontForm;
 MenuFormControls MenuForm;
 
 const std::vector<Form*>& AllForms() {
   static const std::vector<Form*> forms = {&MainForm,        &InitializingForm,  &TickerForm,
-                                           &SetupWizardForm, &SystemOptionsForm, &MenuForm};
+                                           &SetupWizardForm, &SystemOptionsForm, &SystemFontForm, &MenuForm};
   return forms;
 }
 

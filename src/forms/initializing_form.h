@@ -6,7 +6,10 @@
 namespace skyloft {
 
 struct InitializingFormControls : Form {
-  InitializingFormControls() : Form("InitializingForm", "Skyloft") { EmailLink.Caption = "Skyloft Support"; }
+  InitializingFormControls() : Form("InitializingForm", "Skyloft", Border::None) {
+    ExStyle = 0x80;  // a tool window
+    EmailLink.Caption = "Skyloft Support";
+  }
 
   Label SoftwareVersion{this, "SoftwareVersion"};
   Label SoftwareStatus{this, "SoftwareStatus"};

@@ -6,9 +6,10 @@
 namespace skyloft {
 
 struct MainFormControls : Form {
-  MainFormControls() : Form("MainForm", "Skyloft") {
+  MainFormControls() : Form("MainForm", "Skyloft", Border::None) {
     SevereWeatherLabel.Caption = "Severe Weather";
     PersonalLabel.Caption = "Personal Alerts";
+    ExStyle = 0x40000;  // in the taskbar
     TimeLabel.Caption = "Time";
     Channel.Locked = true;
     for (Control* hidden :

@@ -6,7 +6,7 @@
 namespace skyloft {
 
 struct MenuFormControls : Form {
-  MenuFormControls() : Form("MenuForm", "") {}
+  MenuFormControls() : Form("MenuForm", "", Border::None) {}
 
   // The menu of the tray icons and of the main window.
   MenuItem Options{this, "Options", "Options", nullptr};

@@ -6,7 +6,7 @@
 namespace skyloft {
 
 struct SetupWizardFormControls : Form {
-  SetupWizardFormControls() : Form("SetupWizardForm", "Skyloft Setup Wizard") {
+  SetupWizardFormControls() : Form("SetupWizardForm", "Skyloft Setup Wizard", Border::Dialog) {
     Heading.Caption = "Welcome to the Skyloft Setup Wizard!";
     Introduction.Caption =
         "Before you can experience the ultimate personal weather software, you must answer a few basic "

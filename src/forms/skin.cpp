@@ -87,6 +87,17 @@ constexpr PlaceRow kSkin[] = {
     {"SetupWizardForm.CancelButton", 12, 380, 100, 30},
     {"SetupWizardForm.NextButton", 448, 380, 100, 30},
 
+    {"SystemFontForm", 0, 0, 520, 330},
+    {"SystemFontForm.Heading", 20, 16, 480, 22},
+    {"SystemFontForm.Message", 20, 46, 480, 80},
+    {"SystemFontForm.Step1", 20, 134, 480, 18},
+    {"SystemFontForm.Step2", 20, 158, 480, 18},
+    {"SystemFontForm.Step3", 20, 182, 480, 18},
+    {"SystemFontForm.Step4", 20, 206, 480, 18},
+    {"SystemFontForm.Step5", 20, 230, 480, 18},
+    {"SystemFontForm.Step6", 20, 254, 480, 18},
+    {"SystemFontForm.OKButton", 210, 286, 100, 30},
+
     {"SystemOptionsForm", 0, 0, 420, 380},
     {"SystemOptionsForm.TabStripOptions", 10, 10, 400, 30},
     {"SystemOptionsForm.OptionsFrame", 10, 42, 400, 240},

@@ -6,7 +6,7 @@
 namespace skyloft {
 
 struct SystemOptionsFormControls : Form {
-  SystemOptionsFormControls() : Form("SystemOptionsForm", "Skyloft System Options") {
+  SystemOptionsFormControls() : Form("SystemOptionsForm", "Skyloft System Options", Border::Dialog) {
     TabStripOptions.Tabs = {"Email", "Ticker", "Update", "Connection"};
     const char* frames[] = {"Email Options", "Ticker Options", "Update Frequency", "Connection Options"};
     for (int i = 0; i < OptionsFrame.Size(); ++i) OptionsFrame[i].Caption = frames[i];

@@ -6,7 +6,10 @@
 namespace skyloft {
 
 struct TickerFormControls : Form {
-  TickerFormControls() : Form("TickerForm", "Skyloft Ticker") { Sponsor4.Visible = false; }
+  TickerFormControls() : Form("TickerForm", "Skyloft Ticker", Border::None) {
+    ExStyle = 0x80;  // a tool window
+    Sponsor4.Visible = false;
+  }
 
   HtmlDisplay Sponsor4{this, "Sponsor4"};
   HtmlDisplay Ticker{this, "Ticker"};

@@ -58,10 +58,18 @@ void Control::Describe(PropertyList& out) const {
   }
 }
 
-Form::Form(std::string name, const std::string& caption) : Control(nullptr, std::move(name)) {
+Form::Form(std::string name, const std::string& caption, Border border) : Control(nullptr, std::move(name)) {
   Visible = false;
   Caption = caption;
+  if (border == Border::Dialog) Style = 0xC80000;
 }
+
+void Form::Press(const MousePress& press) {
+  Fire(MouseDown, press);
+  Fire(ClassMouseDown, press);
+}
+
+void Form::Release(const MousePress& press) { Fire(ClassMouseUp, press); }
 
 void Form::Describe(PropertyList& out) const {
   out.emplace_back("visible", Visible.Get());
@@ -69,7 +77,7 @@ void Form::Describe(PropertyList& out) const {
   out.emplace_back("top", double(Top));
   out.emplace_back("width", double(Width));
   out.emplace_back("height", double(Height));
-  out.emplace_back("topmost", TopMost.Get());
+  out.emplace_back("topmost", TopMost());
   out.emplace_back("caption", Caption.Get());
 }
 

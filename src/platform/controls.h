@@ -3,6 +3,7 @@
 // control returns to its loop. A user's act is a call of the model's act procedure through Raise.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -123,10 +124,20 @@ class ControlArray {
   std::vector<std::unique_ptr<T>> items_;
 };
 
+// An entry of a window's system menu; command 0 is a separator.
+struct SystemMenuEntry {
+  int command;
+  bool enabled;
+};
+
 // A window. It starts hidden.
 class Form : public Control {
  public:
-  Form(std::string name, const std::string& caption);
+  // The style that it starts with: a window without a frame, or a dialog with a title bar.
+  enum class Border { None, Dialog };
+  Form(std::string name, const std::string& caption, Border border);
+  void Press(const MousePress& press);    // act: a mouse button goes down on the body
+  void Release(const MousePress& press);  // act: it goes up
   Form& operator=(const Form& other) = default;
   const std::vector<Control*>& Controls() const { return controls_.list; }
   std::string_view Type() const override { return "Form"; }
@@ -134,10 +145,16 @@ class Form : public Control {
   void Accept(ControlVisitor& visitor) override;
 
   Property<std::string> Caption{this};
-  Property<bool> TopMost{this};
+  // The window's style and extended style as numbers. The display acts on the bits of title bar (style
+  // 0xC00000), sizing (0x40000), top-most (extended 0x8), tool window (0x80) and taskbar (0x40000).
+  Property<std::uint32_t> Style{this}, ExStyle{this};
+  std::vector<SystemMenuEntry> SystemMenu = {{61728, true}, {61456, true}, {61440, true}, {61472, true},
+                                             {61488, true}, {0, true},     {61536, true}};
+  bool TopMost() const { return (ExStyle & 0x8u) != 0; }
   Event Unload;  // a request to close the window; it stays unless the handler hides it
   Event LostFocus;
-  MouseEvent MouseDown;  // on the body of the form
+  MouseEvent MouseDown;                     // on the body of the form
+  MouseEvent ClassMouseDown, ClassMouseUp;  // the same, for the form's window class
 
  private:
   friend class Control;

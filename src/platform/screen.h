@@ -3,6 +3,9 @@
 
 namespace skyloft {
 
+// Dots per inch of the desktop; the program is made for 96.
+int DotsPerInch();
+
 struct ScreenSize {
   int width, height;
 };

@@ -16,6 +16,10 @@ struct RoundRegion {
 void SetWindowRegion(Form& form, const RoundRegion& region);
 // Lets the user drag the window with the button that is down.
 void StartWindowDrag(Form& form);
+// Opens the window's system menu at a pixel of the window.
+void ShowSystemMenu(Form& form, int x, int y);
+// Brings a visible window forward and gives it the focus.
+void ActivateWindow(Form& form);
 // Pops up a menu at the mouse: the entries of `menu`, with their submenus.
 void PopUpMenu(Form& form, MenuItem& menu);
 

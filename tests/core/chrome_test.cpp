@@ -1,21 +1,24 @@
 #include "core/chrome.h"
 
+#include "feed/catalogues.h"
+#include "forms/setup_wizard_form.h"
+#include "settings/settings.h"
 #include "station.h"
 
 namespace skyloft {
 namespace {
 
-class Chrome : public Station {
+class ChromeTest : public Station {
  protected:
   static std::string Icon(const std::string& file) { return "C:\\program files\\skyloft\\icons\\" + file; }
 };
 
-TEST_F(Chrome, TheWindowIsARoundRectangleThatBeginsTwoPixelsAboveIt) {
+TEST_F(ChromeTest, TheWindowIsARoundRectangleThatBeginsTwoPixelsAboveIt) {
   EXPECT_EQ(CreateWindowRegion(800, 590, 1.0, 1.0, 0, 0), (RoundRegion{0, -2, 800, 590, 110, 96}));
   EXPECT_EQ(CreateWindowRegion(800, 590, 2.0, 0.5, 10, 20), (RoundRegion{10, 19, 1610, 315, 220, 48}));
 }
 
-TEST_F(Chrome, AnEmptyArgumentLeavesItsProperty) {
+TEST_F(ChromeTest, AnEmptyArgumentLeavesItsProperty) {
   MainForm.PlayButton.Enabled = false;
   MainForm.PlayButton.Visible = true;
   PlayButtonState("", "", Icon("playr.gif"));
@@ -28,26 +31,26 @@ TEST_F(Chrome, AnEmptyArgumentLeavesItsProperty) {
   EXPECT_EQ(MainForm.PlayButton.PicturePath(), Icon("playr.gif"));
 }
 
-TEST_F(Chrome, ThePictureIsReadAtEveryCall) {
+TEST_F(ChromeTest, ThePictureIsReadAtEveryCall) {
   Doubles.loaded_pictures.clear();
   PlayButtonState("", "", Icon("play.gif"));
   PlayButtonState("", "", Icon("play.gif"));
   EXPECT_EQ(Doubles.loaded_pictures.size(), 2u);
 }
 
-TEST_F(Chrome, AMissingPictureIsTheCallersError) {
+TEST_F(ChromeTest, AMissingPictureIsTheCallersError) {
   Doubles.missing_pictures.insert(Icon("play.gif"));
   EXPECT_THROW(PlayButtonState("True", "", Icon("play.gif")), RuntimeError);
 }
 
-TEST_F(Chrome, DownAndUpShowThePressedAndTheNormalPicture) {
+TEST_F(ChromeTest, DownAndUpShowThePressedAndTheNormalPicture) {
   MainForm.HelpButton.Down();
   EXPECT_EQ(MainForm.HelpButton.PicturePath(), Icon("helpr.gif"));
   MainForm.HelpButton.Up();
   EXPECT_EQ(MainForm.HelpButton.PicturePath(), Icon("help.gif"));
 }
 
-TEST_F(Chrome, TheSevereButtonsComeWithTheirLabels) {
+TEST_F(ChromeTest, TheSevereButtonsComeWithTheirLabels) {
   for (const Control* hidden :
        {static_cast<Control*>(&MainForm.TornadoButton), static_cast<Control*>(&MainForm.FloodButton),
         static_cast<Control*>(&MainForm.ThunderstormButton),
@@ -65,7 +68,71 @@ TEST_F(Chrome, TheSevereButtonsComeWithTheirLabels) {
   EXPECT_TRUE(MainForm.PersonalLabel.Visible);
 }
 
-TEST_F(Chrome, TheBodyDragsTheWindowWithAnyButton) {
+TEST_F(ChromeTest, PressingTheLegendButtonTwiceBringsTheLegendBack) {
+  MainForm.Legend.Visible = true;
+  MainForm.LegendButton.Down();
+  EXPECT_FALSE(MainForm.Legend.Visible);
+  EXPECT_EQ(Settings.LegendFlag, 1);
+  EXPECT_EQ(MainForm.LegendButton.PicturePath(), Icon("legendr.gif"));
+  MainForm.LegendButton.Up();
+  MainForm.LegendButton.Press();
+  EXPECT_EQ(Settings.LegendFlag, 1) << "it acts once, on the press";
+  EXPECT_EQ(MainForm.LegendButton.PicturePath(), Icon("legend.gif"));
+  MainForm.LegendButton.Down();
+  EXPECT_TRUE(MainForm.Legend.Visible);
+  EXPECT_EQ(Settings.LegendFlag, 0);
+}
+
+TEST_F(ChromeTest, HelpChoosesTheSupportCategoryAndShowsTheWindow) {
+  MainForm.CategorySelection.AddItem("Planners");
+  MainForm.CategorySelection.AddItem("Technical Support");
+  Catalogues.SupportCategoryIndex = 1;
+  MainForm.HelpButton.Press();
+  EXPECT_EQ(MainForm.CategorySelection.Text(), "Technical Support");
+  EXPECT_TRUE(MainForm.Visible);
+}
+
+TEST_F(ChromeTest, LosingTheFocusClearsTopMost) {
+  Chrome.MainWindow.SetClient(&MainForm);
+  Chrome.MainWindow.SetTopMost(true);
+  EXPECT_TRUE(MainForm.TopMost());
+  Fire(MainForm.LostFocus);
+  EXPECT_FALSE(MainForm.TopMost());
+}
+
+TEST_F(ChromeTest, TheProceduresOfAbsentButtonsChangeNothing) {
+  Doubles.loaded_pictures.clear();
+  MinimizeButtonState("True", "True", Icon("minimize.gif"));
+  RouteScopeRoadButtonState("True", "True", Icon("x.gif"));
+  EXPECT_TRUE(Doubles.loaded_pictures.empty());
+}
+
+TEST_F(ChromeTest, EveryButtonWithAPressedPictureShowsIt) {
+  for (const ImageButtonState* state :
+       {&BackButtonState, &NextButtonState, &PlayButtonState, &StopButtonState, &ExitButtonState,
+        &HelpButtonState, &MenuButtonState, &LocalButtonState, &NationalButtonState, &AreaZoomButtonState,
+        &ZoomInButtonState, &ZoomOutButtonState, &ResetButtonState, &LegendButtonState}) {
+    ImageButton& button = MainForm.*state->button;
+    button.Enabled = true;
+    button.Down();
+    EXPECT_EQ(button.PicturePath(), Icon(state->pressed)) << button.Name();
+    button.Up();
+    EXPECT_EQ(button.PicturePath(), Icon(state->normal)) << button.Name();
+  }
+}
+
+TEST_F(ChromeTest, ASecondStartBringsTheMainWindowForwardOrTheWizardOfAFirstRun) {
+  SetupWizardForm.Visible = true;
+  ShowAgain();
+  EXPECT_FALSE(MainForm.Visible);
+  SetupWizardForm.Visible = false;
+  SetUpLocations(1);
+  ShowAgain();
+  EXPECT_TRUE(MainForm.Visible);
+  EXPECT_EQ(Doubles.activated, (std::vector<std::string>{"SetupWizardForm", "MainForm"}));
+}
+
+TEST_F(ChromeTest, TheBodyDragsTheWindowWithAnyButton) {
   for (const MouseButton button : {MouseButton::Left, MouseButton::Right}) {
     Fire(MainForm.MouseDown, MousePress{400, 300, button});
   }

@@ -1,11 +1,14 @@
 #include "core/mainform.h"
 
+#include "core/chrome.h"
+
 #include "feed/hosts.h"
 #include "feed/observations.h"
 #include "forms/initializing_form.h"
 #include "forms/main_form.h"
 #include "forms/menu_form.h"
 #include "forms/setup_wizard_form.h"
+#include "forms/system_font_form.h"
 #include "forms/system_options_form.h"
 #include "forms/ticker_form.h"
 #include "settings/location_profiles.h"
@@ -170,7 +173,7 @@ TEST_F(StartUp, TheTickerIsSizedAndPlacedByTheWorkArea) {
   EXPECT_EQ(TickerForm.Top, 600 + 12000 - 525);
   EXPECT_EQ(TickerForm.Left, 0);
   EXPECT_TRUE(TickerForm.Visible);
-  EXPECT_FALSE(TickerForm.TopMost);
+  EXPECT_FALSE(TickerForm.TopMost());
   EXPECT_EQ(
       TickerForm.Ticker.Document.Get(),
       "<html><body bgcolor='000000' topmargin='0' leftmargin='0' marginheight='0' marginwidth='0'></body>"
@@ -192,12 +195,36 @@ TEST_F(StartUp, TheTickerFollowsItsOptions) {
   SetUpStored(1);
   Doubles.Store(kOptionsKey, "AlwaysOnTop", "1");
   LoadMainForm();
-  EXPECT_TRUE(TickerForm.TopMost);
+  EXPECT_TRUE(TickerForm.TopMost());
   TickerForm = {};
   Doubles.Store(kOptionsKey, "ShowTicker", "0");
   LoadMainForm();
   EXPECT_FALSE(TickerForm.Visible);
-  EXPECT_FALSE(TickerForm.TopMost);
+  EXPECT_FALSE(TickerForm.TopMost());
+}
+
+TEST_F(StartUp, AnotherNumberOfDotsPerInchShowsOnlyItsWarningAndFetchesNothing) {
+  SetUpStored(1);
+  Doubles.requests.clear();
+  Doubles.dots_per_inch = 120;
+  LoadMainForm();
+  EXPECT_TRUE(SystemFontForm.Visible);
+  EXPECT_FALSE(MainForm.Visible);
+  EXPECT_FALSE(InitializingForm.Visible);
+  EXPECT_FALSE(TickerForm.Visible);
+  EXPECT_TRUE(Doubles.requests.empty());
+  EXPECT_EQ(Start.LocalView, std::string("True"));
+  const int syncs = Doubles.store_syncs;
+  EXPECT_TRUE(EndsProcess([] { SystemFontForm.OKButton.Press(); }));
+  EXPECT_TRUE(EndsProcess([] { Fire(SystemFontForm.Unload); }));
+  EXPECT_EQ(Doubles.store_syncs, syncs) << "it ends without saving";
+}
+
+TEST_F(StartUp, TheTwoStyleObjectsAreAttached) {
+  SetUpStored(1);
+  LoadMainForm();
+  EXPECT_EQ(Chrome.MainWindow.Client(), &MainForm);
+  EXPECT_EQ(Chrome.TickerWindow.Client(), &TickerForm);
 }
 
 TEST_F(StartUp, TheWindowGetsItsShape) {

@@ -11,7 +11,7 @@ namespace skyloft {
 namespace {
 
 struct SmallForm : Form {
-  SmallForm() : Form("SmallForm", "Small") {}
+  SmallForm() : Form("SmallForm", "Small", Border::None) {}
   Label Title{this, "Title"};
   ListControl Choice{this, "Choice"};
   CheckBox Switch{this, "Switch"};

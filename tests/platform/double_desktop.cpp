@@ -7,6 +7,10 @@ namespace skyloft {
 
 void SetWindowRegion(Form&, const RoundRegion& region) { Doubles.regions.push_back(region); }
 void StartWindowDrag(Form&) { ++Doubles.drags; }
+void ShowSystemMenu(Form& form, int x, int y) {
+  Doubles.system_menus.push_back(form.Name() + " " + std::to_string(x) + " " + std::to_string(y));
+}
+void ActivateWindow(Form& form) { Doubles.activated.push_back(form.Name()); }
 void PopUpMenu(Form&, MenuItem& menu) { Doubles.menus.push_back(menu.Name()); }
 
 BoxAnswer ShowBox(BoxKind kind, const std::string& text) {
@@ -20,6 +24,7 @@ BoxAnswer ShowBox(BoxKind kind, const std::string& text) {
 void OpenLink(const std::string& address) { Doubles.links.push_back(address); }
 void StartUpdate(const std::string& path) { Doubles.started_updates.push_back(path); }
 
+int DotsPerInch() { return Doubles.dots_per_inch; }
 ScreenSize GetScreenSize() { return Doubles.screen; }
 WorkArea GetWorkArea() { return Doubles.work_area; }
 

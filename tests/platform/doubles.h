@@ -66,10 +66,13 @@ struct DoublesState {
   std::vector<RoundRegion> regions;
   int drags = 0;
   std::vector<std::string> menus;
+  std::vector<std::string> system_menus;
+  std::vector<std::string> activated;
   std::vector<std::pair<BoxKind, std::string>> boxes;
   std::deque<BoxAnswer> answers;
   std::vector<std::string> links;
   std::vector<std::string> started_updates;
+  int dots_per_inch = 96;
   ScreenSize screen = {1280 * 15, 1024 * 15};
   WorkArea work_area = {0, 1280 * 15, 1000 * 15};
   std::string application_path = "C:\\somewhere\\else\\skyloft.exe";

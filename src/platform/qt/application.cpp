@@ -26,6 +26,7 @@
 #include "platform/qt/http_qt.h"
 #include "platform/qt/process_qt.h"
 #include "platform/qt/registry_qt.h"
+#include "platform/qt/screen_qt.h"
 #include "platform/qt/script.h"
 #include "platform/qt/skin_style.h"
 #include "platform/qt/snapshot.h"
@@ -142,6 +143,7 @@ int RunApplication(int argc, char** argv, const AppOptions& options) {
   QApplication::setApplicationName("skyloft");
   QApplication::setQuitOnLastWindowClosed(false);
   SetFont();
+  SetDotsPerInch(options.dots_per_inch);
   application.setStyleSheet(SkinStyle());
   application.setWindowIcon(QIcon("skin:app.png"));
   WatchEnd(application);

@@ -14,14 +14,26 @@
 namespace skyloft {
 namespace {
 
+// The bits of a form's style that the window acts on.
 Qt::WindowFlags FlagsOf(const Form& form) {
-  if (form.Name() == "MainForm") return Qt::Window | Qt::FramelessWindowHint;
-  if (form.Name() == "TickerForm") return Qt::Tool | Qt::FramelessWindowHint;
-  if (form.Name() == "InitializingForm") return Qt::SplashScreen | Qt::FramelessWindowHint;
-  return Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint | Qt::CustomizeWindowHint;
+  const bool titled = (form.Style & 0xC00000u) != 0;
+  const bool tool = (form.ExStyle & 0x80u) != 0;
+  const bool in_taskbar = (form.ExStyle & 0x40000u) != 0;
+  Qt::WindowFlags flags = tool ? Qt::Tool : in_taskbar ? Qt::Window : titled ? Qt::Dialog : Qt::Tool;
+  flags |= titled ? Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint
+                  : Qt::FramelessWindowHint;
+  if (form.TopMost()) flags |= Qt::WindowStaysOnTopHint;
+  return flags;
 }
 
+bool IsSizeable(const Form& form) { return (form.Style & 0x40000u) != 0; }
+
 QPoint PixelsOf(const Form& form) { return {form.Left / kTwipsPerPixel, form.Top / kTwipsPerPixel}; }
+
+MousePress PressOf(const QMouseEvent& event) {
+  const auto button = event.button() == Qt::LeftButton ? MouseButton::Left : MouseButton::Right;
+  return {event.pos().x(), event.pos().y(), button};
+}
 
 }  // namespace
 
@@ -35,12 +47,18 @@ FormWindow::FormWindow(Form& form) : QWidget(nullptr, FlagsOf(form)), form_(form
 
 void FormWindow::ShowForm() {
   setWindowTitle(ToQt(form_.Caption));
-  setFixedSize(form_.Width / kTwipsPerPixel, form_.Height / kTwipsPerPixel);
+  const QSize size(form_.Width / kTwipsPerPixel, form_.Height / kTwipsPerPixel);
+  if (IsSizeable(form_)) {
+    setMinimumSize(0, 0);
+    setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    resize(size);
+  } else {
+    setFixedSize(size);
+  }
   placing_ = true;
   const bool placed = form_.Left != 0 || form_.Top != 0 || windowFlags().testFlag(Qt::FramelessWindowHint);
   if (placed && pos() != PixelsOf(form_)) move(PixelsOf(form_));
-  const bool top_most = windowFlags().testFlag(Qt::WindowStaysOnTopHint);
-  if (form_.TopMost != top_most) setWindowFlag(Qt::WindowStaysOnTopHint, form_.TopMost);
+  if (windowFlags() != FlagsOf(form_)) setWindowFlags(FlagsOf(form_));
   setVisible(form_.Visible);
   placing_ = false;
 }
@@ -67,9 +85,11 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 }
 
 void FormWindow::mousePressEvent(QMouseEvent* event) {
-  const auto button = event->button() == Qt::LeftButton ? MouseButton::Left : MouseButton::Right;
-  const MousePress press{event->pos().x(), event->pos().y(), button};
-  Raise([&] { Fire(form_.MouseDown, press); });
+  Raise([&] { form_.Press(PressOf(*event)); });
+}
+
+void FormWindow::mouseReleaseEvent(QMouseEvent* event) {
+  Raise([&] { form_.Release(PressOf(*event)); });
 }
 
 // The user moved the window: the model follows, and its place is saved with the settings.

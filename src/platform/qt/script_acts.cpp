@@ -67,7 +67,12 @@ std::string ClickControl(Control& control) {
 
 std::string PressControl(Control& control, const MousePress& press) {
   const auto press_once = [&](const MousePress& once) {
-    return Press<Form>(control, once) || Press<ImageView>(control, once) || Press<Mark>(control, once);
+    if (auto* form = dynamic_cast<Form*>(&control)) {
+      Raise([&] { form->Press(once); });
+      Raise([&] { form->Release(once); });
+      return true;
+    }
+    return Press<ImageView>(control, once) || Press<Mark>(control, once);
   };
   if (press.button == MouseButton::Double && press_once({press.x, press.y, MouseButton::Left})) {
     press_once(press);

@@ -8,7 +8,7 @@ namespace skyloft {
 QString SkinStyle() {
   return R"(
     QWidget { color: #dbe6ff; }
-    QWidget#SetupWizardForm, QWidget#SystemOptionsForm, QMessageBox, QDialog { background: #12234a; }
+    QWidget#SetupWizardForm, QWidget#SystemOptionsForm, QWidget#SystemFontForm, QMessageBox, QDialog { background: #12234a; }
     QLabel { background: transparent; }
     QLabel#LocationLabel { font-weight: bold; font-size: 14px; color: #ffffff; }
     QLabel#ProductTitle { font-weight: bold; font-size: 14px; color: #ffffff; }

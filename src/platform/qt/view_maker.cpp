@@ -24,7 +24,8 @@ QColor ColorOf(int number) { return QColor(number & 255, (number >> 8) & 255, (n
 
 Qt::Alignment AlignmentOf(const std::string& label) {
   if (label == "TimeValue") return Qt::AlignRight | Qt::AlignVCenter;
-  if (label == "Introduction" || label == "Heading") return Qt::AlignLeft | Qt::AlignTop;
+  if (label == "Introduction" || label == "Heading" || label == "Message")
+    return Qt::AlignLeft | Qt::AlignTop;
   if (label == "LocationLabel" || label == "SevereWeatherLabel" || label == "PersonalLabel")
     return Qt::AlignCenter;
   return Qt::AlignLeft | Qt::AlignVCenter;

@@ -37,6 +37,28 @@ void FillMenu(QMenu& menu, const Form& form, const Control& container) {
   }
 }
 
+void AddSystemEntry(QMenu& menu, FormWindow& window, const SystemMenuEntry& entry) {
+  if (entry.command == 0) {
+    menu.addSeparator();
+    return;
+  }
+  static const std::map<int, std::pair<const char*, void (*)(FormWindow&)>> commands = {
+      {61728, {"Restore", [](FormWindow& w) { w.showNormal(); }}},
+      {61456, {"Move", [](FormWindow& w) { w.windowHandle()->startSystemMove(); }}},
+      {61440,
+       {"Size", [](FormWindow& w) { w.windowHandle()->startSystemResize(Qt::BottomEdge | Qt::RightEdge); }}},
+      {61472, {"Minimize", [](FormWindow& w) { w.showMinimized(); }}},
+      {61488, {"Maximize", [](FormWindow& w) { w.showMaximized(); }}},
+      {61536, {"Close", [](FormWindow& w) { w.close(); }}},
+  };
+  const auto command = commands.find(entry.command | 0x8000);
+  if (command == commands.end()) return;
+  QAction* action = menu.addAction(command->second.first);
+  action->setEnabled(entry.enabled);
+  QObject::connect(action, &QAction::triggered, &window,
+                   [act = command->second.second, &window] { act(window); });
+}
+
 }  // namespace
 
 void SetWindowRegion(Form& form, const RoundRegion& region) {
@@ -46,6 +68,23 @@ void SetWindowRegion(Form& form, const RoundRegion& region) {
 void StartWindowDrag(Form& form) {
   FormWindow* window = Display::Get().MadeWindowOf(form);
   if (window && window->windowHandle()) window->windowHandle()->startSystemMove();
+}
+
+void ActivateWindow(Form& form) {
+  Display::Get().ShowDirty();
+  FormWindow& window = Display::Get().WindowOf(form);
+  window.raise();
+  window.activateWindow();
+}
+
+// The desktop's own menu of a window cannot be opened from here on every desktop; ours offers what it would.
+void ShowSystemMenu(Form& form, int x, int y) {
+  FormWindow* window = Display::Get().MadeWindowOf(form);
+  if (!window) return;
+  auto* menu = new QMenu(window);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  for (const SystemMenuEntry& entry : form.SystemMenu) AddSystemEntry(*menu, *window, entry);
+  menu->popup(window->mapToGlobal(QPoint(x, y)));
 }
 
 void PopUpMenu(Form& form, MenuItem& entries) {
