@@ -32,8 +32,8 @@ function(skyloft_target target)
   endif()
 endfunction()
 
-# skyloft_test(base_dates_test dates_test.cpp LIBS skyloft_base): one test program; every TEST is a ctest
-# entry of its own and runs in its own process.
+# skyloft_test(base_dates_test dates_test.cpp LIBS skyloft_base ENV TZ=UTC LANG=C): one test program; every TEST is a
+# ctest entry of its own and runs in its own process.
 function(skyloft_test name)
   cmake_parse_arguments(arg "" "" "LIBS;ENV" ${ARGN})
   add_executable(${name} ${arg_UNPARSED_ARGUMENTS})
@@ -41,6 +41,10 @@ function(skyloft_test name)
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR}/tests)
   target_link_libraries(${name} PRIVATE ${arg_LIBS} GTest::gtest GTest::gtest_main)
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+  # One property that is a list: every step to the test cuts at semicolons and takes some backslashes away.
+  set(environment QT_QPA_PLATFORM=offscreen ${arg_ENV})
+  string(REPEAT "\\" 8 escape)
+  string(REPLACE ";" "${escape};" environment "${environment}")
   gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60
-    PROPERTIES TIMEOUT 120 ENVIRONMENT "QT_QPA_PLATFORM=offscreen;${arg_ENV}")
+    PROPERTIES TIMEOUT 120 ENVIRONMENT "${environment}")
 endfunction()

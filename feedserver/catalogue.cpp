@@ -49,7 +49,7 @@ constexpr Sector kNational{"200", -2400000, 2800000, -3100000, 800000};
 std::string ProductsXml(std::string_view run_hour) {
   XmlDocument xml("products");
   xml.Add("model", std::string(run_hour) + "z");
-  xml.Add("modelx", run_hour);
+  xml.Add("modelx", std::string(run_hour) + "z");
   xml.Add("height", NumberText(kMapHeight));
   xml.Add("width", NumberText(kMapWidth));
   for (const std::string_view category : kCategories) xml.Add("menu", category);

@@ -89,6 +89,7 @@ TEST(Answer, CataloguesAreThereForEveryModelRun) {
   for (const std::string hour : {"00", "06", "12", "18"}) {
     const Elements products = Ask("/products." + hour + "z.sys.4");
     EXPECT_EQ(First(products, "model"), hour + "z");
+    EXPECT_EQ(First(products, "modelx"), hour + "z");
     EXPECT_EQ(Values(products, "menu"),
               (std::vector<std::string>{"Planners", "Forecast Maps", "NEXRAD Radar", "Historical"}));
     const std::vector<std::string> names = Values(products, "product");
