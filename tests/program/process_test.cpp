@@ -1,0 +1,145 @@
+// The program among other processes: signals, its feed, the folders it may write to.
+#include <gtest/gtest.h>
+#include <signal.h>
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QThread>
+
+#include <functional>
+
+#include "program/program.h"
+
+namespace skyloft::program {
+namespace {
+
+bool Within(int milliseconds, const std::function<bool()>& reached) {
+  QElapsedTimer clock;
+  clock.start();
+  while (!reached()) {
+    if (clock.elapsed() > milliseconds) return false;
+    QThread::msleep(10);
+  }
+  return true;
+}
+
+// "comm", state and parent of a process; empty when there is none of that id.
+QList<QByteArray> StateOf(pid_t process) {
+  const QByteArray stat = ReadBytes(QString("/proc/%1/stat").arg(process));
+  if (stat.isEmpty()) return {};
+  const qsizetype name_end = stat.lastIndexOf(')');
+  const QList<QByteArray> fields = stat.mid(name_end + 2).split(' ');
+  return {stat.mid(stat.indexOf('(') + 1).chopped(stat.size() - name_end), fields[0], fields[1]};
+}
+
+// One that has ended may stay as a zombie until its parent looks.
+bool IsAlive(pid_t process) {
+  const auto state = StateOf(process);
+  return !state.isEmpty() && state[1] != "Z";
+}
+
+pid_t FeedOf(pid_t parent) {
+  for (const QString& entry : QDir("/proc").entryList(QDir::Dirs)) {
+    const pid_t process = entry.toInt();
+    const auto state = process > 0 ? StateOf(process) : QList<QByteArray>();
+    if (!state.isEmpty() && state[0].startsWith("skyloft-feed") && state[2].toInt() == parent) return process;
+  }
+  return 0;
+}
+
+// A run with the five towns that does its acts, saves a snapshot to s/ and then stays.
+std::unique_ptr<ProgramRun> StartAndStay(const Folder& folder, const QByteArray& acts = {}) {
+  folder.Write("script", acts + "snapshot " + folder.Path("s").toUtf8() + "\nwait 60000\n");
+  auto run =
+      std::make_unique<ProgramRun>(folder, InRoot(folder, {"--demo", "--script", folder.Path("script")}));
+  EXPECT_TRUE(Within(20000, [&] { return Snapshot(folder.Path("s")).Saved(); }));
+  return run;
+}
+
+TEST(Process, FeedEndsWithAKilledProgram) {
+  const Folder folder;
+  const auto run = StartAndStay(folder);
+  const pid_t feed = FeedOf(run->Process());
+  ASSERT_GT(feed, 0);
+  EXPECT_TRUE(IsAlive(feed));
+  kill(run->Process(), SIGKILL);
+  EXPECT_TRUE(Within(2000, [&] { return !IsAlive(feed); }));
+  EXPECT_EQ(run->Wait().code, -1);
+}
+
+TEST(Process, FeedEndsWithTheProgram) {
+  const Folder folder;
+  const auto run = StartAndStay(folder);
+  const pid_t feed = FeedOf(run->Process());
+  ASSERT_GT(feed, 0);
+  kill(run->Process(), SIGTERM);
+  EXPECT_EQ(run->Wait().code, 0);
+  EXPECT_TRUE(Within(2000, [&] { return !IsAlive(feed); }));
+}
+
+class EndSignal : public testing::TestWithParam<int> {};
+
+TEST_P(EndSignal, SavesAndEndsAsTheMenuDoes) {
+  const Folder folder;
+  const auto run = StartAndStay(folder,
+                                "select MainForm.LocationSelection 2\ncheck SystemOptionsForm.ShowAlmanac "
+                                "0\nclock 2003-03-07T15:30:00\n");
+  ASSERT_TRUE(QFile::remove(folder.DataFile()));
+  kill(run->Process(), GetParam());
+  const Ending ending = run->Wait();
+  EXPECT_EQ(ending.code, 0) << ending.errors;
+  EXPECT_EQ(folder.Setting("Settings/Location"), "2");
+  EXPECT_EQ(folder.Setting("Options/ShowAlmanac"), "0");
+  EXPECT_TRUE(QFile::exists(folder.DataFile()));
+}
+
+INSTANTIATE_TEST_SUITE_P(Signals, EndSignal, testing::Values(SIGTERM, SIGINT),
+                         [](const auto& test) { return test.param == SIGTERM ? "Terminate" : "Interrupt"; });
+
+TEST(Files, RootKeepsEverythingInside) {
+  const Folder folder;
+  const Ending ending =
+      RunInRoot(folder, {"--demo"}, "select MainForm.LocationSelection 4\nmenu ExitSkyloft\n");
+  ASSERT_EQ(ending.code, 0) << ending.errors;
+  EXPECT_TRUE(folder.Entries("root").contains("registry.ini"));
+  for (const char* outside : {"home", "tmp", "cwd", "runtime"}) {
+    EXPECT_TRUE(folder.Entries(outside).isEmpty())
+        << outside << folder.Entries(outside).join('\n').toStdString();
+  }
+  EXPECT_TRUE(folder.Entries("cache").filter("skyloft").isEmpty());
+}
+
+TEST(Files, InTheRootAreTheStoreAndTheInstallFolderOnly) {
+  const Folder folder;
+  SetUpTowns(folder);
+  for (const QString& entry : folder.Entries("root")) {
+    const bool expected =
+        entry == "registry.ini" || entry == "program files" || entry.startsWith("program files/skyloft");
+    EXPECT_TRUE(expected) << entry.toStdString();
+  }
+  EXPECT_TRUE(folder.Entries("root").contains("program files/skyloft/temp"));
+}
+
+TEST(Files, WithoutARootTheUsersFoldersHoldThem) {
+  const Folder folder;
+  folder.Write("script", "click SetupWizardForm.CancelButton\n");
+  ASSERT_EQ(ProgramRun(folder, {"--script", folder.Path("script")}).Wait().code, 0);
+  EXPECT_TRUE(QFile::exists(folder.Path("home/.local/share/skyloft/program files/skyloft/temp")));
+  EXPECT_FALSE(QFile::exists(folder.Root()));
+  EXPECT_TRUE(folder.Entries("cwd").isEmpty());
+}
+
+TEST(Files, EnvironmentNamesTheRootThatNoOptionNames) {
+  const Folder folder;
+  folder.Write("script", "click SetupWizardForm.CancelButton\n");
+  const QStringList environment = {"SKYLOFT_ROOT=" + folder.Path("elsewhere")};
+  ASSERT_EQ(ProgramRun(folder, {"--script", folder.Path("script")}, environment).Wait().code, 0);
+  EXPECT_TRUE(QFile::exists(folder.Path("elsewhere/program files/skyloft")));
+  ASSERT_EQ(ProgramRun(folder, InRoot(folder, {"--script", folder.Path("script")}), environment).Wait().code,
+            0);
+  EXPECT_TRUE(QFile::exists(folder.Root()));
+}
+
+}  // namespace
+}  // namespace skyloft::program
