@@ -136,6 +136,7 @@ int RunApplication(int argc, char** argv, const AppOptions& options) {
   TheRun().options = options;
   if (!SetZone(QString::fromStdString(options.zone))) return Refuse("no time zone", options.zone);
   if (!options.now.empty()) StopClock(ReadDate(options.now));
+  if (!options.script.empty() && !LoadScript(options.script)) return Refuse("cannot read", options.script);
   SetUpFolders(options);
   SetUpServer(options);
 
@@ -148,7 +149,6 @@ int RunApplication(int argc, char** argv, const AppOptions& options) {
   application.setWindowIcon(QIcon("skin:app.png"));
   WatchEnd(application);
   if (!options.script.empty() || !options.snapshot.empty()) AnswerBoxesByScript();
-  if (!options.script.empty() && !LoadScript(options.script)) return Refuse("cannot read", options.script);
 
   AtEnd(SyncStore);
   ApplySkin();

@@ -93,10 +93,14 @@ bool Equal(const std::string& actual, const std::string& wanted) {
 }
 
 void Step();
-void Schedule(int milliseconds) { QTimer::singleShot(milliseconds, &Display::Get(), Step); }
+void ScheduleStep() { QTimer::singleShot(0, &Display::Get(), Step); }
+
+// What a line that waits does when it is over.
+using Continuation = void (*)();
 
 // Goes on when `reached` holds; fails the line after `limit` milliseconds.
-void Await(const Line& line, int limit, const std::function<bool()>& reached, const std::string& failure) {
+void Await(const Line& line, int limit, const std::function<bool()>& reached, const std::string& failure,
+           Continuation then) {
   auto clock = std::make_shared<QElapsedTimer>();
   clock->start();
   auto* poll = new QTimer(&Display::Get());
@@ -105,7 +109,7 @@ void Await(const Line& line, int limit, const std::function<bool()>& reached, co
     if (!reached()) Fail(line, failure);
     poll->stop();
     poll->deleteLater();
-    Step();
+    then();
   });
   poll->start(kPollMilliseconds);
 }
@@ -113,7 +117,8 @@ void Await(const Line& line, int limit, const std::function<bool()>& reached, co
 // One command. Returns whether the script goes on by itself at once; otherwise the command has arranged it.
 class Command {
  public:
-  explicit Command(Line line) : line_(std::move(line)), words_(WordsOf(line_.text)) {}
+  explicit Command(Line line, Continuation then = Step)
+      : line_(std::move(line)), words_(WordsOf(line_.text)), then_(then) {}
 
   bool Run() {
     static const std::map<std::string, bool (Command::*)()> commands = {
@@ -183,13 +188,13 @@ class Command {
     return true;
   }
   bool Wait() {
-    Schedule(Number(1));
+    QTimer::singleShot(Number(1), &Display::Get(), then_);
     return false;
   }
   bool Until() {
     if (Text(1) == "idle") {
       Await(
-          line_, Number(2), [] { return Display::Get().Idle(); }, "not idle in time");
+          line_, Number(2), [] { return Display::Get().Idle(); }, "not idle in time", then_);
       return false;
     }
     skyloft::Control& control = Named(1);
@@ -202,7 +207,7 @@ class Command {
           std::string actual;
           return PropertyText(control, property, actual) && Equal(actual, wanted);
         },
-        "not in time");
+        "not in time", then_);
     return false;
   }
   bool Expect() {
@@ -211,9 +216,10 @@ class Command {
     return true;
   }
   // The rest of the line runs from the event loop, and so do the lines after it, if need be inside it.
+  // Nothing waits for its end.
   bool Async() {
     const Line inner{line_.number, Rest(line_.text, 1)};
-    QTimer::singleShot(0, &Display::Get(), [inner] { Command(inner).Run(); });
+    QTimer::singleShot(0, &Display::Get(), [inner] { Command(inner, [] {}).Run(); });
     return true;
   }
   bool Timers() {
@@ -225,6 +231,7 @@ class Command {
 
   Line line_;
   Words words_;
+  Continuation then_;
 };
 
 void Step() {
@@ -234,7 +241,7 @@ void Step() {
     return;
   }
   const Line& line = script.lines[script.next++];
-  if (Command(line).Run()) Schedule(0);
+  if (Command(line).Run()) ScheduleStep();
 }
 
 bool IsAnswer(const Line& line) { return line.text.starts_with("answer "); }
@@ -259,7 +266,7 @@ bool LoadScript(const std::string& file) {
 
 void RunScript(void (*finished)()) {
   TheScript().finished = finished;
-  Schedule(0);
+  ScheduleStep();
 }
 
 }  // namespace skyloft
