@@ -26,7 +26,7 @@ Ending StartAgainst(const Folder& folder, const QString& snapshot, const char* f
                             "--snapshot", folder.Path(snapshot)});
 }
 
-std::string TemperaturesPage(const Folder& folder, const char* snapshot) {
+std::string PageIn(const Folder& folder, const char* snapshot) {
   return Snapshot(folder.Path(snapshot)).Page(kBanner);
 }
 
@@ -35,7 +35,7 @@ TEST(Fault, WithoutOneNewReadingsReplaceTheOld) {
   SetUpTowns(folder);
   ASSERT_EQ(StartAgainst(folder, "old", kFeedNow, {}).code, 0);
   ASSERT_EQ(StartAgainst(folder, "new", kLater, {}).code, 0);
-  EXPECT_NE(TemperaturesPage(folder, "old"), TemperaturesPage(folder, "new"));
+  EXPECT_NE(PageIn(folder, "old"), PageIn(folder, "new"));
 }
 
 class ForecastFault : public testing::TestWithParam<const char*> {};
@@ -44,7 +44,7 @@ TEST_P(ForecastFault, OldReadingsStayOnShow) {
   const Folder folder;
   SetUpTowns(folder);
   ASSERT_EQ(StartAgainst(folder, "old", kFeedNow, {}).code, 0);
-  const std::string old_page = TemperaturesPage(folder, "old");
+  const std::string old_page = PageIn(folder, "old");
   ASSERT_NE(old_page.find("Temperature</B>: "), old_page.npos);
   // First all of the forecasts' page fails, then only one kind of query at a time.
   for (const std::string page : {"/forecast.asp", "/forecast.asp?d=meta", "/forecast.asp?d=current"}) {
@@ -65,10 +65,11 @@ TEST_P(ForecastFault, ReadingsAreFetchedOnceTheFeedIsWell) {
             0);
   ASSERT_EQ(StartAgainst(faulty, "s", kLater, {}).code, 0);
   ASSERT_EQ(StartAgainst(well, "s", kLater, {}).code, 0);
-  EXPECT_EQ(TemperaturesPage(faulty, "s"), TemperaturesPage(well, "s"));
+  EXPECT_EQ(PageIn(faulty, "s"), PageIn(well, "s"));
 }
 
-INSTANTIATE_TEST_SUITE_P(Kinds, ForecastFault, testing::Values("500", "empty", "cut", "garbage", "refuse"),
+INSTANTIATE_TEST_SUITE_P(Kinds, ForecastFault,
+                         testing::Values("500", "empty", "cut", "garbage", "refuse", "huge"),
                          [](const auto& test) { return std::string(test.param); });
 
 // Rows have no bounds of their own in the feed: lists that run short or over give a town the values of its
@@ -84,7 +85,7 @@ TEST(WrongCounts, NextReadingsSetThemRight) {
   ASSERT_EQ(StartAgainst(folder, "right", kMuchLater, {}).code, 0);
   const RunningServer server({"--port", "0", "--now", kMuchLater});
   const std::string feed = BodyOf(Get(server.Port(), "/forecast.asp?t=xml&d=current&pc=66044"));
-  const std::string page = TemperaturesPage(folder, "right");
+  const std::string page = PageIn(folder, "right");
   EXPECT_NE(page.find("Temperature</B>: " + TextsOf(feed, "Tf").at(0) + " F"), page.npos) << page;
   EXPECT_NE(page.find("Humidity</B>: " + TextsOf(feed, "Rh").at(0) + " %"), page.npos) << page;
 }

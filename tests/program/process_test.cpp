@@ -9,6 +9,7 @@
 
 #include <functional>
 
+#include "feedserver/running_server.h"
 #include "program/program.h"
 
 namespace skyloft::program {
@@ -84,7 +85,7 @@ TEST_P(EndSignal, SavesAndEndsAsTheMenuDoes) {
   const Folder folder;
   const auto run = StartAndStay(folder,
                                 "select MainForm.LocationSelection 2\ncheck SystemOptionsForm.ShowAlmanac "
-                                "0\nclock 2003-03-07T15:30:00\n");
+                                "0\n");
   ASSERT_TRUE(QFile::remove(folder.DataFile()));
   kill(run->Process(), GetParam());
   const Ending ending = run->Wait();
@@ -96,6 +97,18 @@ TEST_P(EndSignal, SavesAndEndsAsTheMenuDoes) {
 
 INSTANTIATE_TEST_SUITE_P(Signals, EndSignal, testing::Values(SIGTERM, SIGINT),
                          [](const auto& test) { return test.param == SIGTERM ? "Terminate" : "Interrupt"; });
+
+TEST(Process, SignalEndsItWhileAFetchHangs) {
+  const Folder folder;
+  SetUpTowns(folder);
+  const feed::RunningServer server(
+      {"--port", "0", "--log", folder.Path("log").toStdString(), "--fault", "/forecast.asp?d=meta=hang"});
+  ProgramRun run(folder, InRoot(folder, {"--hosts", "127.0.0.1:" + QString::number(server.Port())}));
+  ASSERT_TRUE(Within(20000, [&] { return !Only(ReadLog(folder.Path("log")), "/forecast.asp").empty(); }));
+  kill(run.Process(), SIGTERM);
+  EXPECT_FALSE(run.Running(2000));
+  EXPECT_EQ(run.Wait().code, 0);
+}
 
 TEST(Files, RootKeepsEverythingInside) {
   const Folder folder;
