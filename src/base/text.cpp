@@ -80,4 +80,12 @@ std::string FromUtf8(std::string_view utf8) {
   return text;
 }
 
+bool IsUtf8(std::string_view text) {
+  while (!text.empty()) {
+    const bool told = text.starts_with("\xEF\xBF\xBD");  // the replacement character itself
+    if (TakeCharacter(text) == kNoCharacter && !told) return false;
+  }
+  return true;
+}
+
 }  // namespace skyloft

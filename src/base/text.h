@@ -11,4 +11,7 @@ std::string ToUtf8(std::string_view text);
 // UTF-8 to windows-1252; '?' for every character without a byte and for every malformed sequence.
 std::string FromUtf8(std::string_view utf8);
 
+// Whether a text is well-formed UTF-8.
+bool IsUtf8(std::string_view text);
+
 }  // namespace skyloft

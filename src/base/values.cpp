@@ -127,6 +127,14 @@ double RoundHalfEven(double value, int decimals) {
   return std::nearbyint(value * scale) / scale;
 }
 
+int WholeNumber(std::string_view text) {
+  const long long number = RoundHalfEven(LenientNumber(text));
+  if (number < std::numeric_limits<int>::min() || number > std::numeric_limits<int>::max()) {
+    throw RuntimeError("no whole number in range: " + std::string(text));
+  }
+  return static_cast<int>(number);
+}
+
 long long RoundHalfAway(double value) { return ToWhole(std::round(value)); }
 
 double RoundFloor(double value) { return std::floor(value + 0.5); }

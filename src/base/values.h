@@ -25,6 +25,9 @@ std::string BooleanText(bool value);
 long long RoundHalfEven(double value);
 // The same at a number of decimals, done as scale, round, unscale: 1.15 to one decimal is 1.2.
 double RoundHalfEven(double value, int decimals);
+// The number at the start of a text, lenient, as a whole one, halves to even. Raises outside the range of
+// int.
+int WholeNumber(std::string_view text);
 // Whole number nearest to `value`, halves away from zero: 3.5 is 4, -3.5 is -4.
 long long RoundHalfAway(double value);
 // floor(value + 0.5).

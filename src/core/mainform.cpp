@@ -58,12 +58,32 @@ void SelectStoredLocation() {
   MainForm.LocationSelection.Select(location);
 }
 
-struct StartStep {
-  const char* status;                 // nullptr: no change of text
-  std::vector<void (*)()> work;       // each call under its own guard
-  int value_after;                    // of the progress bar; 0: no change
-  void (*own_statement)() = nullptr;  // not guarded: its error ends the start
-};
+void ShowTicker() {
+  const bool alert = Bulletins.NWSAlertActive == 1 || PersonalAlertsState.PersonalAlertActive == 1;
+  if (!alert) TickerDisplay();
+  if (!SystemOptionsForm.ShowTicker.Checked) return;
+  TickerForm.Visible = true;
+  if (SystemOptionsForm.AlwaysOnTop.Checked) Chrome.TickerWindow.SetTopMost(true);
+}
+
+// With locations: the steps under the splash, then the ticker and the timers.
+void StartWithLocations() {
+  InitializingForm.ProgressBar.Max = 13;
+  InitializingForm.ProgressBar.Value = 0;
+  InitializingForm.Visible = true;
+  for (const StartStep& step : StartSteps()) RunStartStep(step);
+  ShowTicker();
+  MainForm.Clock.Enabled = true;
+  MainForm.UpdateTimer.Enabled = true;
+}
+
+void EndStart() {
+  InitializingForm.Visible = false;
+  InitializingForm.ProgressBar.Value = 0;
+  Start.LocalView = "True";
+}
+
+}  // namespace
 
 const std::vector<StartStep>& StartSteps() {
   static const std::vector<StartStep> steps = {
@@ -86,41 +106,17 @@ const std::vector<StartStep>& StartSteps() {
   return steps;
 }
 
-void RunStartSteps() {
-  for (const StartStep& step : StartSteps()) {
-    if (step.status) InitializingForm.SoftwareStatus.Caption = step.status;
-    for (const auto& call : step.work) Guarded(call);
-    if (step.own_statement) step.own_statement();
-    if (step.value_after > 0) InitializingForm.ProgressBar.Value = step.value_after;
-  }
+void RunStartStep(const StartStep& step) {
+  if (step.status) InitializingForm.SoftwareStatus.Caption = step.status;
+  for (const auto& call : step.work) Guarded(call);
+  if (step.own_statement) step.own_statement();
+  if (step.value_after > 0) InitializingForm.ProgressBar.Value = step.value_after;
 }
 
-void ShowTicker() {
-  const bool alert = Bulletins.NWSAlertActive == 1 || PersonalAlertsState.PersonalAlertActive == 1;
-  if (!alert) TickerDisplay();
-  if (!SystemOptionsForm.ShowTicker.Checked) return;
-  TickerForm.Visible = true;
-  if (SystemOptionsForm.AlwaysOnTop.Checked) Chrome.TickerWindow.SetTopMost(true);
+void LeaveProgram() {
+  if (!Start.Loaded) EndProcess();
+  ExitSkyloft();
 }
-
-// With locations: the steps under the splash, then the ticker and the timers.
-void StartWithLocations() {
-  InitializingForm.ProgressBar.Max = 13;
-  InitializingForm.ProgressBar.Value = 0;
-  InitializingForm.Visible = true;
-  RunStartSteps();
-  ShowTicker();
-  MainForm.Clock.Enabled = true;
-  MainForm.UpdateTimer.Enabled = true;
-}
-
-void EndStart() {
-  InitializingForm.Visible = false;
-  InitializingForm.ProgressBar.Value = 0;
-  Start.LocalView = "True";
-}
-
-}  // namespace
 
 void SetInstallPath() {
   Settings.InstallPath = std::string(LeftText(ApplicationPath(), 2)) + "\\program files\\skyloft";
@@ -136,6 +132,7 @@ void PlaceTicker() {
 }
 
 void ConnectForms() {
+  for (Form* form : AllForms()) CentreForm(*form);
   SetInstallPath();
   ConnectChrome();
   ConnectTransport();
@@ -161,6 +158,7 @@ void LoadMainForm() {
     Chrome.MainWindow.SetClient(&MainForm);
     Chrome.TickerWindow.SetClient(&TickerForm);
     LoadSystem();
+    Start.Loaded = true;
     TickerForm.Ticker.Document = kBlankPage;
     TickerForm.Height = kTickerHeight;
     TickerForm.Width = GetWorkArea().width;

@@ -1,12 +1,15 @@
 // The program's start, as one list of steps.
 #pragma once
 
+#include <vector>
+
 namespace skyloft {
 
 // Whether start-up is over: "True" then, and "" before. The product browser uses the same text for its map
 // view.
 struct StartState {
   const char* LocalView = "";
+  bool Loaded = false;  // whether the stores have been read, so that saving loses nothing
   int WorkAreaTopSaved = 0, WorkAreaHeightSaved = 0;  // twips, when the ticker was placed
 };
 extern StartState Start;
@@ -21,6 +24,19 @@ void ConnectForms();
 // stored location that the list cannot select, deletes sklt.dat and ends the process; a step that fails ends
 // only itself.
 void LoadMainForm();
+
+// One row of the start under the splash.
+struct StartStep {
+  const char* status;                 // nullptr: no change of text
+  std::vector<void (*)()> work;       // each call under its own guard
+  int value_after;                    // of the progress bar; 0: no change
+  void (*own_statement)() = nullptr;  // not guarded: its error ends the start
+};
+const std::vector<StartStep>& StartSteps();
+void RunStartStep(const StartStep& step);
+
+// The end that the desktop asks for: as the menu's exit, but without saving before the stores were read.
+void LeaveProgram();
 
 // Puts the ticker bar at its edge of the work area and remembers that area.
 void PlaceTicker();

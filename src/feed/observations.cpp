@@ -143,8 +143,7 @@ void GetCurrentConditionsRT(const std::string& longitude, const std::string& lat
       for (const auto& [tag, field] : tags) ReadXmlValue(reply, tag, *field, count);
       int code = 0;
       int found = 0;
-      SkyCondition(0, 0, kSkyRows - 1, static_cast<int>(RoundHalfEven(LenientNumber(out.SkyID))), "", "",
-                   code, out.Desc, out.Ic, found);
+      SkyCondition(0, 0, kSkyRows - 1, WholeNumber(out.SkyID), "", "", code, out.Desc, out.Ic, found);
     });
   });
 }

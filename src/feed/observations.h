@@ -19,7 +19,6 @@ struct ObservationTables {
   Cells Tf, Df, At;    // temperature, dew point, apparent temperature; degrees Fahrenheit
   Cells Rh;            // relative humidity, percent
   Cells Ws;            // wind speed, miles per hour
-  Cells Unfilled;      // has a line in the saved file, and nothing fills it
   Cells Wd;            // compass text of three characters
   Cells Vi;            // visibility, miles
   Cells Slp;           // pressure, inches
@@ -32,7 +31,7 @@ struct ObservationState {
 };
 extern ObservationState Observations;
 
-// Asks for the stamps of all locations and of the model run. A failure leaves all stamps as they are.
+// Asks for the stamps of all locations and of the model run. A failed fetch leaves all stamps as they are.
 void GetMetaData();
 
 // Fetches the locations whose stamp differs from the one held; sends nothing when there is none. A reply with

@@ -20,7 +20,8 @@ MenuFormControls MenuForm;
 
 const std::vector<Form*>& AllForms() {
   static const std::vector<Form*> forms = {&MainForm,        &InitializingForm,  &TickerForm,
-                                           &SetupWizardForm, &SystemOptionsForm, &SystemFontForm, &MenuForm};
+                                           &SetupWizardForm, &SystemOptionsForm, &SystemFontForm,
+                                           &MenuForm};
   return forms;
 }
 

@@ -18,6 +18,9 @@ const std::vector<Form*>& AllForms();
 // when there is none.
 Control* FindControl(std::string_view name);
 
+// Puts a form into the middle of the screen.
+void CentreForm(Form& form);
+
 // Puts every form and control at its place of the skin.
 void ApplySkin();
 

@@ -1,5 +1,6 @@
 // The skin: where every control lies. Pixels in the form or, for the members of a frame, in the frame.
 #include "forms/forms.h"
+#include "platform/screen.h"
 
 namespace skyloft {
 namespace {
@@ -136,6 +137,12 @@ void Place(Control& control, const PlaceRow& row) {
 }
 
 }  // namespace
+
+void CentreForm(Form& form) {
+  const ScreenSize screen = GetScreenSize();
+  form.Top = screen.height / 2 - form.Height / 2;
+  form.Left = screen.width / 2 - form.Width / 2;
+}
 
 void ApplySkin() {
   for (const PlaceRow& row : kSkin) {

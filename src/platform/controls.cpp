@@ -49,7 +49,7 @@ bool AnyDirtyControl() { return !DirtyList().empty(); }
 void Control::Describe(PropertyList& out) const {
   out.emplace_back("visible", Visible.Get());
   out.emplace_back("enabled", Enabled.Get());
-  if (!ToolTip.Get().empty()) out.emplace_back("tooltip", ToolTip.Get());
+  out.emplace_back("tooltip", ToolTip.Get());
   if (Width > 0 || Height > 0) {
     out.emplace_back("left", double(Left));
     out.emplace_back("top", double(Top));
@@ -212,7 +212,7 @@ void Frame::Describe(PropertyList& out) const {
 void TabStrip::Describe(PropertyList& out) const {
   Control::Describe(out);
   out.emplace_back("items", Tabs);
-  out.emplace_back("index", double(selected_));
+  out.emplace_back("index", double(selected_ - 1));
   out.emplace_back("text", Tabs.empty() ? "" : Tabs[static_cast<size_t>(selected_ - 1)]);
 }
 
@@ -240,7 +240,7 @@ Timer::Timer(Form* form, std::string name, int interval) : Control(form, std::mo
 }
 
 void Timer::Describe(PropertyList& out) const {
-  out.emplace_back("enabled", Enabled.Get());
+  Control::Describe(out);
   out.emplace_back("interval", double(Interval));
 }
 
@@ -258,11 +258,13 @@ HttpControl::HttpControl(Form* form, std::string name, int timeout)
     : Control(form, std::move(name)), Timeout(timeout) {}
 
 void HttpControl::Describe(PropertyList& out) const {
-  out.emplace_back("value", double(State));
-  out.emplace_back("interval", double(Timeout));
+  Control::Describe(out);
+  out.emplace_back("state", double(State));
+  out.emplace_back("timeout", double(Timeout));
 }
 
 void FileList::Describe(PropertyList& out) const {
+  Control::Describe(out);
   out.emplace_back("text", Path);
   out.emplace_back("items", Files);
 }

@@ -64,16 +64,24 @@ std::string LocationKey(int slot) { return "Software\\Aerolume\\Skyloft\\Locatio
 
 using ObservationCells = ObservationTables::Cells ObservationTables::*;
 
-// The observation's sixteen lines of sklt.dat.
+// The observation's sixteen lines of sklt.dat; nothing fills the one without a cell.
 constexpr ObservationCells kObservationLines[] = {
-    &ObservationTables::ObsStamp, &ObservationTables::ObsStampServer,
-    &ObservationTables::City,     &ObservationTables::State,
-    &ObservationTables::Lt,       &ObservationTables::Desc,
-    &ObservationTables::Ic,       &ObservationTables::Tf,
-    &ObservationTables::Df,       &ObservationTables::At,
-    &ObservationTables::Rh,       &ObservationTables::Ws,
-    &ObservationTables::Unfilled, &ObservationTables::Wd,
-    &ObservationTables::Vi,       &ObservationTables::Slp,
+    &ObservationTables::ObsStamp,
+    &ObservationTables::ObsStampServer,
+    &ObservationTables::City,
+    &ObservationTables::State,
+    &ObservationTables::Lt,
+    &ObservationTables::Desc,
+    &ObservationTables::Ic,
+    &ObservationTables::Tf,
+    &ObservationTables::Df,
+    &ObservationTables::At,
+    &ObservationTables::Rh,
+    &ObservationTables::Ws,
+    nullptr,
+    &ObservationTables::Wd,
+    &ObservationTables::Vi,
+    &ObservationTables::Slp,
 };
 
 // What a delete moves with the location: the lines above but for Slp.
@@ -86,16 +94,23 @@ constexpr std::string ForecastHourFields::*kHourLines[] = {
 };
 
 constexpr std::string ForecastDayFields::*kDayLines[] = {
-    &ForecastDayFields::Ut, &ForecastDayFields::Lt, &ForecastDayFields::Desc, &ForecastDayFields::Ic,
-    &ForecastDayFields::Th, &ForecastDayFields::Tl, &ForecastDayFields::Rn,   &ForecastDayFields::Sn,
-    &ForecastDayFields::Wd, &ForecastDayFields::Ws,
+    &ForecastDayFields::Ut,   nullptr,
+    &ForecastDayFields::Desc, &ForecastDayFields::Ic,
+    &ForecastDayFields::Th,   &ForecastDayFields::Tl,
+    &ForecastDayFields::Rn,   &ForecastDayFields::Sn,
+    &ForecastDayFields::Wd,   &ForecastDayFields::Ws,
 };
 
-// Every cell of sklt.dat in the order of its lines.
+// Every cell of sklt.dat in the order of its lines; the lines that nothing fills share one cell, empty on
+// saving.
 std::vector<std::string*> LocationDataCells(int last) {
+  static std::string unfilled;
+  unfilled.clear();
   std::vector<std::string*> cells;
   for (int location = 0; location <= last; ++location) {
-    for (ObservationCells line : kObservationLines) cells.push_back(&(ObservationRecord.*line)[location]);
+    for (ObservationCells line : kObservationLines) {
+      cells.push_back(line ? &(ObservationRecord.*line)[location] : &unfilled);
+    }
   }
   for (int location = 0; location <= last; ++location) {
     for (int hour = 0; hour < kForecastHours; ++hour) {
@@ -103,7 +118,7 @@ std::vector<std::string*> LocationDataCells(int last) {
       cells.push_back(&FrameUrl[hour]);  // once for each location; on load the last one wins
     }
     for (int day = 0; day < kForecastDays; ++day) {
-      for (auto line : kDayLines) cells.push_back(&(ForecastDay[location][day].*line));
+      for (auto line : kDayLines) cells.push_back(line ? &(ForecastDay[location][day].*line) : &unfilled);
     }
   }
   for (int location = 0; location <= last; ++location) {
@@ -119,9 +134,9 @@ std::string DataFile() { return Settings.InstallPath + "\\sklt.dat"; }
 
 std::string_view TakeLine(std::string_view& rest) {
   const size_t end = rest.find('\n');
-  if (end == std::string_view::npos) throw RuntimeError("sklt.dat ends early");
+  if (rest.empty()) throw RuntimeError("sklt.dat ends early");
   std::string_view line = rest.substr(0, end);
-  rest.remove_prefix(end + 1);
+  rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
   if (line.ends_with('\r')) line.remove_suffix(1);
   return line;
 }
@@ -140,10 +155,11 @@ void RecoverLocationData() {
   });
 }
 
-// Calls move(from, to) or, at the last slot, clears: the cells that belong to one location.
+// Copies the cells that move with a location.
 void CopySlot(int from, int to) {
   for (auto& row : LocationProfile) row[to] = row[from];
   for (size_t i = 0; i < kMovedObservations; ++i) {
+    if (!kObservationLines[i]) continue;
     auto& cells = ObservationRecord.*kObservationLines[i];
     cells[to] = cells[from];
   }
@@ -156,7 +172,9 @@ void CopySlot(int from, int to) {
 
 void ClearSlot(int slot) {
   for (auto& row : LocationProfile) row[slot].clear();
-  for (size_t i = 0; i < kMovedObservations; ++i) (ObservationRecord.*kObservationLines[i])[slot].clear();
+  for (size_t i = 0; i < kMovedObservations; ++i) {
+    if (kObservationLines[i]) (ObservationRecord.*kObservationLines[i])[slot].clear();
+  }
   for (auto* table : {&Almanac.Sunrise, &Almanac.Sunset, &Almanac.Moonrise, &Almanac.Moonset})
     (*table)[slot].clear();
   ForecastHour[slot] = {};

@@ -54,7 +54,7 @@ void ShowTitles(int location) {
 }
 
 void CheckTrayLocation() {
-  const int chosen = static_cast<int>(LenientNumber(Settings.TrayLocationIndex));
+  const int chosen = WholeNumber(Settings.TrayLocationIndex);
   for (int i = 0; i < MenuForm.TrayLocationTitle.Size(); ++i) MenuForm.TrayLocationTitle[i].Checked = false;
   MenuForm.TrayLocationTitle[chosen].Checked = true;
 }

@@ -4,10 +4,10 @@
 #include "base/values.h"
 #include "feed/hosts.h"
 #include "feed/transport.h"
+#include "forms/forms.h"
 #include "forms/main_form.h"
 #include "forms/system_options_form.h"
 #include "platform/registry_store.h"
-#include "platform/screen.h"
 #include "settings/registry.h"
 
 namespace skyloft {
@@ -18,7 +18,7 @@ namespace {
 
 int IndexOf(const std::string& text, const char* name) {
   if (text.empty()) throw RuntimeError(std::string(name) + " is empty");
-  return static_cast<int>(RoundHalfEven(LenientNumber(text)));
+  return WholeNumber(text);
 }
 
 std::string NumberOrEmpty(const std::string& text) {
@@ -29,13 +29,11 @@ void PlaceWindow(const std::string& top, const std::string& left) {
   if (!top.empty() && !left.empty()) {
     const double y = StrictNumber(top);
     const double x = StrictNumber(left);
-    MainForm.Top = static_cast<int>(RoundHalfEven(y));
-    MainForm.Left = static_cast<int>(RoundHalfEven(x));
+    MainForm.Top = WholeNumber(NumberText(y));
+    MainForm.Left = WholeNumber(NumberText(x));
     return;
   }
-  const ScreenSize screen = GetScreenSize();
-  MainForm.Top = screen.height / 2 - MainForm.Height / 2;
-  MainForm.Left = screen.width / 2 - MainForm.Width / 2;
+  CentreForm(MainForm);
 }
 
 void Load(std::string& value, const char* name, const std::string& fallback) {
@@ -142,10 +140,9 @@ void LoadOptions() {
       (SystemOptionsForm.*kCheckBoxes[i].box).Checked = IsOn(checks[i]);
     }
     Transport.AutoConnect = Repaired(auto_connect, "1");
-    Settings.LegendFlag = static_cast<int>(LenientNumber(Repaired(legend_flag, "0")));
+    Settings.LegendFlag = WholeNumber(Repaired(legend_flag, "0"));
     for (size_t i = 0; i < std::size(kLists); ++i) {
-      (SystemOptionsForm.*kLists[i].list)
-          .Select(static_cast<int>(LenientNumber(Repaired(lists[i], kLists[i].repaired))));
+      (SystemOptionsForm.*kLists[i].list).Select(WholeNumber(Repaired(lists[i], kLists[i].repaired)));
     }
     SystemOptionsForm.AutoConnect.Checked = IsOn(Transport.AutoConnect);
   });

@@ -31,7 +31,8 @@ void SetUpDemoTowns() {
   if (!ReadSetting(kSettingsKey, "LocationIndexMax", "").empty()) return;
   SetInstallPath();
   std::string server_version;
-  ReadHostTable(1, HostAddress.WebHost + kHostTablePath, server_version);
+  HostAddress.Hosts = HostAddress.WebHost + kHostTablePath;
+  ReadHostTable(1, HostAddress.Hosts, server_version);
   int towns = 0;
   for (const char* zip_code : kDemoTowns) {
     if (SetUpTown(zip_code, towns)) ++towns;
@@ -40,6 +41,7 @@ void SetUpDemoTowns() {
   if (towns == 0) return;
   Settings.Location = "0";
   Settings.LocationIndexMax = NumberText(towns - 1);
+  WriteSetting(kSettingsKey, "Hosts", HostAddress.Hosts);
   WriteSetting(kSettingsKey, "Location", Settings.Location);
   WriteSetting(kSettingsKey, "LocationIndexMax", Settings.LocationIndexMax);
   SaveLocationProfiles();

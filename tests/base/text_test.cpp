@@ -41,5 +41,12 @@ TEST(Text, WhatHasNoByteIsAQuestionMark) {
   for (const auto& c : cases) EXPECT_EQ(FromUtf8(c.utf8), c.text);
 }
 
+TEST(Text, TellsWellFormedUtf8FromOtherBytes) {
+  for (const char* text : {"", "plain", "caf\xC3\xA9", "\xE2\x82\xAC", "\xEF\xBF\xBD"})
+    EXPECT_TRUE(IsUtf8(text)) << text;
+  for (const char* text : {"caf\xE9", "\x80", "\xC3", "\xE2\x82", "\xC3\x28"})
+    EXPECT_FALSE(IsUtf8(text)) << text;
+}
+
 }  // namespace
 }  // namespace skyloft

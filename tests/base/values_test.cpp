@@ -199,5 +199,13 @@ TEST(Values, TrimmingTakesBlanksAndTabs) {
   EXPECT_EQ(TrimText(""), "");
 }
 
+TEST(Values, AWholeNumberOfATextIsRoundedToTheEvenNeighbourAndNeverWraps) {
+  const std::pair<const char*, int> cases[] = {{"3", 3},   {" -2 ", -2}, {"2.5", 2},
+                                               {"3.5", 4}, {"", 0},      {"12 mph", 12}};
+  for (const auto& [text, number] : cases) EXPECT_EQ(WholeNumber(text), number) << text;
+  for (const char* text : {"4294967296", "-2147483649", "1e300"})
+    EXPECT_THROW(WholeNumber(text), RuntimeError) << text;
+}
+
 }  // namespace
 }  // namespace skyloft

@@ -106,28 +106,70 @@ TEST_F(StartUp, TheSplashTellsTheStepThatRunsAndTheTimersAreOff) {
   EXPECT_TRUE(MainForm.UpdateTimer.Enabled);
 }
 
-// A row that sets no text leaves the one before: the severe buttons appear under "receiving sponsor", with
-// the splash over the visible main window.
-TEST_F(StartUp, TheSplashStaysOverTheVisibleMainWindowForTheLastRows) {
+TEST_F(StartUp, TheLocationIsSelectedAfterSavingAndBeforeTheWindowIsShown) {
   SetUpStored(1);
-  TakeDirtyControls();
-  std::string status_at_selection;
-  int value_at_selection = 0;
+  int selected = 0;
   MainForm.LocationSelection.Click = [&] {
-    status_at_selection = InitializingForm.SoftwareStatus.Caption;
-    value_at_selection = InitializingForm.ProgressBar.Value;
-    EXPECT_TRUE(InitializingForm.Visible);
-    EXPECT_FALSE(MainForm.Visible) << "it becomes visible at the next row";
-    EXPECT_TRUE(Doubles.files.contains(kDataFile)) << "saving comes before";
+    ++selected;
+    EXPECT_EQ(InitializingForm.SoftwareStatus.Caption.Get(), "updating display");
+    EXPECT_EQ(InitializingForm.ProgressBar.Value, 9);
+    EXPECT_FALSE(MainForm.Visible);
+    EXPECT_TRUE(Doubles.files.contains(kDataFile));
   };
   LoadMainForm();
-  EXPECT_EQ(status_at_selection, "updating display");
-  EXPECT_EQ(value_at_selection, 9) << "the row between, for messages, sets no value";
-  EXPECT_TRUE(MainForm.TornadoButton.Visible);
+  EXPECT_EQ(selected, 1);
+}
+
+// Two rows set no text and no value: the messages, and the severe buttons. The splash stays over the visible
+// main window for the last rows.
+TEST_F(StartUp, EveryRowSetsItsTextAndItsValueAndTheSplashStaysOverTheMainWindow) {
+  SetUpStored(1);
+  LoadSystem();
+  InitializingForm.Visible = true;
+  struct Row {
+    const char* status;
+    int value;
+    bool main_window;
+  };
+  const Row told[] = {{"connecting to Skyloft Server", 1, false},
+                      {"receiving sector data", 2, false},
+                      {"receiving current conditions", 3, false},
+                      {"receiving forecasts", 4, false},
+                      {"processing forecasts", 5, false},
+                      {"processing almanac", 6, false},
+                      {"receiving NEXRAD radar", 7, false},
+                      {"updating products", 8, false},
+                      {"updating products", 8, false},
+                      {"saving", 9, false},
+                      {"updating display", 10, false},
+                      {"receiving sponsor", 11, true},
+                      {"receiving sponsor", 11, true},
+                      {"checking warnings", 12, true},
+                      {"checking personal forecast alerts", 13, true}};
+  ASSERT_EQ(StartSteps().size(), std::size(told));
+  for (size_t i = 0; i < std::size(told); ++i) {
+    RunStartStep(StartSteps()[i]);
+    EXPECT_EQ(InitializingForm.SoftwareStatus.Caption.Get(), told[i].status) << i;
+    EXPECT_EQ(InitializingForm.ProgressBar.Value, told[i].value) << i;
+    EXPECT_EQ(MainForm.Visible, told[i].main_window) << i;
+    EXPECT_TRUE(InitializingForm.Visible) << i;
+    EXPECT_EQ(MainForm.TornadoButton.Visible, i >= 12) << i;
+  }
+}
+
+TEST_F(StartUp, AnEndThatTheDesktopAsksForSavesOnlyWhatWasLoaded) {
+  SetUpStored(2);
+  const auto before = Doubles.store;
+  EXPECT_TRUE(EndsProcess(LeaveProgram));
+  EXPECT_EQ(Doubles.store, before) << "nothing was read yet";
+  LoadMainForm();
+  MainForm.LocationSelection.Select(1);
+  EXPECT_TRUE(EndsProcess(LeaveProgram));
+  EXPECT_EQ(Doubles.Stored(kSettingsKey, "Location"), "1");
 }
 
 TEST_F(StartUp, AStoredLocationOutsideTheListEndsTheProcessAndTheCacheIsGone) {
-  for (const char* location : {"5", "-1", ""}) {
+  for (const char* location : {"5", "-1", "", "4294967296"}) {
     MainForm = {};
     Doubles = {};
     ConnectForms();
@@ -251,17 +293,40 @@ TEST_F(StartUp, TheSupportLinkOpensTheUsersMailProgram) {
   EXPECT_EQ(Doubles.links[0].substr(0, 7), "mailto:");
 }
 
-TEST_F(StartUp, AFailureOfAnyFileOrStoreCallDoesNotEndTheStart) {
+TEST_F(StartUp, AFailureOfAnyFileCallDoesNotEndTheStart) {
   for (int call = 1; call <= 4; ++call) {
     Doubles = {};
     MainForm = {};
     ConnectForms();
     SetUpStored(1);
     Doubles.file_failure.at = call;
-    Doubles.store_failure.at = call * 10 + 20;
     EXPECT_FALSE(EndsProcess(LoadMainForm)) << call;
     EXPECT_TRUE(MainForm.Visible) << call;
   }
+}
+
+// A refused read yields the default: without LocationIndexMax the wizard comes, without Location the start
+// ends.
+TEST_F(StartUp, ARefusedCallOfTheStoreLeadsToOneOfTheToldEnds) {
+  std::map<std::string, int> ends;
+  for (int call = 1; call <= 300; ++call) {
+    Doubles = {};
+    MainForm = {};
+    SetupWizardForm = {};
+    ConnectForms();
+    SetUpStored(1);
+    Doubles.store_failure.at = call;
+    if (EndsProcess(LoadMainForm)) {
+      ++ends["ended"];
+      EXPECT_FALSE(Doubles.files.contains(kDataFile)) << call;
+    } else {
+      EXPECT_NE(MainForm.Visible, SetupWizardForm.Visible) << call;
+      ++ends[MainForm.Visible ? "shown" : "wizard"];
+    }
+  }
+  EXPECT_EQ(ends["ended"], 1);
+  EXPECT_EQ(ends["wizard"], 1);
+  EXPECT_EQ(ends["shown"], 298);
 }
 
 }  // namespace

@@ -152,6 +152,7 @@ INSTANTIATE_TEST_SUITE_P(
                       DocumentCase{"Declared",
                                    "<?xml version='1.0' encoding='windows-1252'?><r><a>\xE9\x80</a></r>", 1,
                                    "\xE9\x80"},
+                      DocumentCase{"UndeclaredAndNotUtf8", "<r><a>caf\xE9</a></r>", 1, "caf\xE9"},
                       DocumentCase{"Empty", "<r><a/></r>", 1, ""}),
     [](const auto& each) { return each.param.name; });
 

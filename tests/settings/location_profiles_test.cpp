@@ -203,12 +203,36 @@ TEST_F(Profiles, AMissingFileClearsTheStampsToo) {
   EXPECT_EQ(Settings.ModelLocal, "");
 }
 
-TEST_F(Profiles, AFileCutInsideItsLastLineIsShort) {
+TEST_F(Profiles, AFileCutBeforeItsLastLineIsShort) {
   SetUpLocations(1);
   SaveLocationData();
   Doubles.files[DataFile()].resize(Doubles.files[DataFile()].size() - 2);
   LoadLocationData();
   EXPECT_FALSE(Doubles.files.contains(DataFile()));
+}
+
+TEST_F(Profiles, UnfilledLinesAreSavedEmptyWhateverAFileHeld) {
+  SetUpLocations(1);
+  SaveLocationData();
+  std::string lines;
+  for (int i = 0; i < 1143; ++i) lines += "x\r\n";
+  Doubles.files[DataFile()] = lines;
+  LoadLocationData();
+  SaveLocationData();
+  const auto saved = SavedLines();
+  EXPECT_EQ(saved[12], "");
+  EXPECT_EQ(saved[16 + 67 * 13 + 1], "") << "the second line of a day";
+  EXPECT_EQ(saved[13], "x");
+}
+
+TEST_F(Profiles, ALastLineWithoutItsLineEndIsALine) {
+  SetUpLocations(1);
+  Almanac.Moonset[0] = "5:00 AM";
+  SaveLocationData();
+  Doubles.files[DataFile()].resize(Doubles.files[DataFile()].size() - 2);
+  Almanac = {};
+  LoadLocationData();
+  EXPECT_EQ(Almanac.Moonset[0], "5:00 AM");
 }
 
 TEST_F(Profiles, ALineBreakInATextShiftsAllLaterLines) {

@@ -90,6 +90,9 @@ TEST_F(SettingsStore, HostsIsSavedAndLoaded) {
   HostAddress.Hosts = "www.skyloft.example/skyloft/config/hosts.xml";
   SaveSettings();
   EXPECT_EQ(Stored("Hosts"), "www.skyloft.example/skyloft/config/hosts.xml");
+  HostAddress.Hosts = "";
+  LoadSettings();
+  EXPECT_EQ(HostAddress.Hosts, "www.skyloft.example/skyloft/config/hosts.xml");
 }
 
 TEST_F(SettingsStore, AllElevenValuesSurviveSaveAndLoad) {
@@ -113,6 +116,11 @@ TEST_F(SettingsStore, AllElevenValuesSurviveSaveAndLoad) {
   EXPECT_EQ(Settings.ModelServer, saved.ModelServer);
   EXPECT_EQ(Settings.StartHourIndex, saved.StartHourIndex);
   EXPECT_EQ(Settings.StopHourIndex, saved.StopHourIndex);
+}
+
+TEST_F(SettingsStore, AnIndexBeyondAllNumbersIsARunTimeErrorAndDoesNotWrap) {
+  Settings.Location = "4294967296";
+  EXPECT_THROW(SelectedLocation(), RuntimeError);
 }
 
 TEST_F(SettingsStore, AnEmptyIndexIsARunTimeErrorAndNotZero) {

@@ -22,6 +22,7 @@ TEST_F(Demo, FiveTownsAreSearchedAndStored) {
   EXPECT_EQ(Doubles.requests.size(), 6u) << "the host table and five searches";
   EXPECT_EQ(Doubles.Stored(kSettingsKey, "LocationIndexMax"), "4");
   EXPECT_EQ(Doubles.Stored(kSettingsKey, "Location"), "0");
+  EXPECT_EQ(Doubles.Stored(kSettingsKey, "Hosts"), "www.skyloft.example/skyloft/config/hosts.xml");
   EXPECT_EQ(Doubles.Stored("Software\\Aerolume\\Skyloft\\Location4", "Title"), "Town, KS");
 }
 

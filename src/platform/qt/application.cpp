@@ -32,7 +32,6 @@
 #include "platform/qt/snapshot.h"
 #include "platform/registry_store.h"
 #include "setup/demo.h"
-#include "setup/menu.h"
 
 namespace skyloft {
 namespace {
@@ -96,14 +95,14 @@ void OnTerminate(int) {
 void WatchEnd(QApplication& application) {
   if (socketpair(AF_UNIX, SOCK_STREAM, 0, signal_pipe) == 0) {
     auto* notifier = new QSocketNotifier(signal_pipe[0], QSocketNotifier::Read, &application);
-    QObject::connect(notifier, &QSocketNotifier::activated, [] { Raise(ExitSkyloft); });
+    QObject::connect(notifier, &QSocketNotifier::activated, [] { Raise(LeaveProgram); });
     struct sigaction action = {};
     action.sa_handler = OnTerminate;
     sigaction(SIGTERM, &action, nullptr);
     sigaction(SIGINT, &action, nullptr);
   }
   QObject::connect(&application, &QGuiApplication::commitDataRequest,
-                   [](QSessionManager&) { Raise(ExitSkyloft); });
+                   [](QSessionManager&) { Raise(LeaveProgram); });
 }
 
 void TakeSnapshotAndEnd() {

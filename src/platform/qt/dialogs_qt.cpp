@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <deque>
 
+#include <QCoreApplication>
 #include <QMessageBox>
 
 #include "platform/qt/text_qt.h"
@@ -13,6 +14,7 @@ namespace {
 struct BoxState {
   bool by_script = false;
   std::deque<BoxAnswer> answers;
+  bool (*answer_is_to_come)() = nullptr;
 };
 BoxState& TheBoxes() {
   static BoxState boxes;
@@ -42,6 +44,10 @@ const char* NameOf(BoxAnswer answer) {
 
 BoxAnswer AnswerByScript(const KindRow& kind, const std::string& text) {
   BoxAnswer answer = BoxAnswer::Cancel;
+  BoxState& boxes = TheBoxes();
+  while (boxes.answers.empty() && boxes.answer_is_to_come && boxes.answer_is_to_come()) {
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  }
   if (!TheBoxes().answers.empty()) {
     answer = TheBoxes().answers.front();
     TheBoxes().answers.pop_front();
@@ -53,6 +59,8 @@ BoxAnswer AnswerByScript(const KindRow& kind, const std::string& text) {
 }  // namespace
 
 void AnswerBoxesByScript() { TheBoxes().by_script = true; }
+
+void LetBoxesWait(bool (*answer_is_to_come)()) { TheBoxes().answer_is_to_come = answer_is_to_come; }
 
 void QueueAnswer(BoxAnswer answer) { TheBoxes().answers.push_back(answer); }
 

@@ -9,5 +9,8 @@ namespace skyloft {
 // printed on stderr.
 void AnswerBoxesByScript();
 void QueueAnswer(BoxAnswer answer);
+// From now on a box without an answer waits, while events go on, as long as `answer_is_to_come` says that one
+// will be queued; nullptr for not.
+void LetBoxesWait(bool (*answer_is_to_come)());
 
 }  // namespace skyloft

@@ -73,11 +73,14 @@ bool IsShared(const QStringList& names) {
 
 }  // namespace
 
-void SetUpDrive(const QString& root, const QString& share) {
+bool SetUpDrive(const QString& root, const QString& share) {
   TheDrive() = {QDir(root).absolutePath(), share};
-  const QString install = TheDrive().root + '/' + kInstallFolder.join('/');
-  QDir().mkpath(install + "/temp");
-  QDir().mkpath(install + "/legends");
+  if (!QDir().mkpath(TheDrive().root)) return false;
+  for (const char* folder : {"temp", "legends"}) {
+    const auto path = Walk(TheDrive().root, kInstallFolder + QStringList(folder));
+    if (!path || !QDir().mkpath(*path)) return false;
+  }
+  return true;
 }
 
 const QString& DriveRoot() { return TheDrive().root; }

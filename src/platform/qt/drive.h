@@ -11,7 +11,8 @@ namespace skyloft {
 
 // Readies the drive: `root` becomes drive C:, `share` the folder of the installed files. Makes the install
 // folder with its temp and its legends where they are missing.
-void SetUpDrive(const QString& root, const QString& share);
+// False when it cannot be made.
+bool SetUpDrive(const QString& root, const QString& share);
 const QString& DriveRoot();
 
 // The file of a path for reading: names match without regard to case, and what is missing in the root's

@@ -40,7 +40,8 @@ HttpState& TheHttp() {
 std::string HostOf(const std::string& address) {
   const size_t start = address.find("://") + 3;
   const std::string host = address.substr(start, address.find_first_of("/?#", start) - start);
-  return LowerCase(host.substr(0, host.rfind(':')));
+  const size_t name_end = host.find(']') == std::string::npos ? 0 : host.find(']');
+  return LowerCase(host.substr(0, host.find(':', name_end)));
 }
 
 bool IsExampleHost(const std::string& host) { return host.ends_with(".skyloft.example"); }
@@ -257,7 +258,8 @@ bool RunFetch(HttpControl& control, Sink& sink) {
 }  // namespace
 
 void SetExampleServer(const std::string& server) {
-  const bool has_port = server.rfind(':') != std::string::npos && server.rfind(':') > server.rfind(']') + 1;
+  const size_t host_end = server.rfind(']') == std::string::npos ? 0 : server.rfind(']');
+  const bool has_port = server.find(':', host_end) != std::string::npos;
   TheHttp().example_server = has_port ? server : server + ":80";
 }
 

@@ -26,9 +26,11 @@
 namespace skyloft {
 namespace {
 
+// A word of a line: its text, and where it stands in the line.
 struct Word {
   std::string text;
   bool quoted = false;
+  size_t begin = 0, end = 0;
 };
 using Words = std::vector<Word>;
 
@@ -57,6 +59,7 @@ Words WordsOf(const std::string& line) {
     i = line.find_first_not_of(" \t", i);
     if (i == std::string::npos) return words;
     Word& word = words.emplace_back();
+    word.begin = i;
     word.quoted = line[i] == '"';
     const char* end = word.quoted ? "\"" : " \t";
     if (word.quoted) ++i;
@@ -64,21 +67,17 @@ Words WordsOf(const std::string& line) {
       if (line[i] == '\\' && word.quoted && i + 1 < line.size()) ++i;
       word.text += line[i];
     }
-    ++i;
+    if (word.quoted) ++i;
+    word.end = std::min(i, line.size());
   }
 }
 
-// The rest of a line behind its first `count` words, without the quotes around it.
-std::string Rest(const std::string& line, int count) {
-  size_t i = 0;
-  for (int word = 0; word < count && i != std::string::npos; ++word) {
-    i = line.find_first_not_of(" \t", i);
-    if (i != std::string::npos) i = line.find_first_of(" \t", i);
-  }
-  if (i == std::string::npos) return "";
-  std::string rest(TrimText(line.substr(i)));
-  if (rest.size() >= 2 && rest.front() == '"' && rest.back() == '"') rest = rest.substr(1, rest.size() - 2);
-  return rest;
+// The text of the words `first` to `last`: what stands in the quotes of a single quoted word, else the line
+// as it is.
+std::string TextOf(const std::string& line, const Words& words, size_t first, size_t last) {
+  if (first > last || last >= words.size()) return "";
+  if (first == last) return words[first].text;
+  return line.substr(words[first].begin, words[last].end - words[first].begin);
 }
 
 [[noreturn]] void Fail(const Line& line, const std::string& why) {
@@ -114,6 +113,15 @@ void Await(const Line& line, int limit, const std::function<bool()>& reached, co
   poll->start(kPollMilliseconds);
 }
 
+bool IsAnswer(const Line& line) { return line.text.starts_with("answer "); }
+
+// Whether a line still to be run answers a box.
+bool AnswerIsToCome() {
+  const ScriptState& script = TheScript();
+  return std::any_of(script.lines.begin() + static_cast<std::ptrdiff_t>(script.next), script.lines.end(),
+                     IsAnswer);
+}
+
 // One command. Returns whether the script goes on by itself at once; otherwise the command has arranged it.
 class Command {
  public:
@@ -139,7 +147,19 @@ class Command {
     if (i >= words_.size()) Fail(line_, "a word is missing");
     return words_[i].text;
   }
-  int Number(size_t i) { return static_cast<int>(LenientNumber(Text(i))); }
+  int Number(size_t i) {
+    int number = 0;
+    if (!Guarded([&] { number = WholeNumber(NumberText(StrictNumber(Text(i)))); })) Fail(line_, "no number");
+    return number;
+  }
+  bool Switch(size_t i, const char* on, const char* off) {
+    if (Text(i) != on && Text(i) != off) Fail(line_, std::string("neither ") + on + " nor " + off);
+    return Text(i) == on;
+  }
+  // The words from `first` on, and those of them before the last one.
+  std::string Rest(size_t first) { return TextOf(line_.text, words_, first, words_.size() - 1); }
+  std::string RestBeforeLast(size_t first) { return TextOf(line_.text, words_, first, words_.size() - 2); }
+
   skyloft::Control& Named(size_t i) {
     skyloft::Control* control = FindControl(Text(i));
     if (!control) Fail(line_, "no control " + Text(i));
@@ -169,13 +189,13 @@ class Command {
     Text(2);
     return Done(SelectEntry(Named(1), words_[2].text, words_[2].quoted));
   }
-  bool Type() { return Done(EnterText(Named(1), Rest(line_.text, 2))); }
-  bool Check() { return Done(CheckControl(Named(1), Number(2) != 0)); }
+  bool Type() { return Done(EnterText(Named(1), Rest(2))); }
+  bool Check() { return Done(CheckControl(Named(1), Switch(2, "1", "0"))); }
   bool Menu() { return Done(ChooseEntry(Text(1), words_.size() > 2 ? Number(2) : -1)); }
   bool Tick() { return Done(TickTimer(Text(1), words_.size() > 2 ? Number(2) : 1)); }
   bool Clock() {
     Date moment;
-    if (!TryReadDate(Rest(line_.text, 1), moment)) Fail(line_, "no date");
+    if (!TryReadDate(Rest(1), moment)) Fail(line_, "no date");
     StopClock(moment);
     return true;
   }
@@ -199,10 +219,11 @@ class Command {
     }
     skyloft::Control& control = Named(1);
     const std::string property = Text(2);
-    const std::string wanted = Text(3);
+    Text(4);
+    const std::string wanted = RestBeforeLast(3);
     Property(control, property);
     Await(
-        line_, Number(4),
+        line_, Number(words_.size() - 1),
         [&control, property, wanted] {
           std::string actual;
           return PropertyText(control, property, actual) && Equal(actual, wanted);
@@ -212,21 +233,26 @@ class Command {
   }
   bool Expect() {
     const std::string actual = Property(Named(1), Text(2));
-    if (!Equal(actual, Rest(line_.text, 3))) Fail(line_, "it is \"" + actual + "\"");
+    if (!Equal(actual, Rest(3))) Fail(line_, "it is \"" + actual + "\"");
     return true;
   }
   // The rest of the line runs from the event loop, and so do the lines after it, if need be inside it.
   // Nothing waits for its end.
   bool Async() {
-    const Line inner{line_.number, Rest(line_.text, 1)};
-    QTimer::singleShot(0, &Display::Get(), [inner] { Command(inner, [] {}).Run(); });
+    Text(1);
+    const Line inner{line_.number, line_.text.substr(words_[1].begin)};
+    QTimer::singleShot(0, &Display::Get(), [inner] {
+      LetBoxesWait(AnswerIsToCome);
+      Command(inner, [] {}).Run();
+      LetBoxesWait(nullptr);
+    });
     return true;
   }
   bool Timers() {
-    Display::Get().RunTimers(Text(1) == "on");
+    Display::Get().RunTimers(Switch(1, "on", "off"));
     return true;
   }
-  bool Snapshot() { return Done(SaveSnapshot(ToQt(Rest(line_.text, 1))) ? "" : "cannot save there"); }
+  bool Snapshot() { return Done(SaveSnapshot(ToQt(Rest(1))) ? "" : "cannot save there"); }
   [[noreturn]] bool Quit() { EndWith(0); }
 
   Line line_;
@@ -243,8 +269,6 @@ void Step() {
   const Line& line = script.lines[script.next++];
   if (Command(line).Run()) ScheduleStep();
 }
-
-bool IsAnswer(const Line& line) { return line.text.starts_with("answer "); }
 
 }  // namespace
 

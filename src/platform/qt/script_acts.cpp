@@ -31,7 +31,7 @@ bool Click(Control& control) {
 template <class T>
 bool Press(Control& control, const MousePress& press) {
   auto* target = dynamic_cast<T*>(&control);
-  if (target) Raise([&] { Fire(target->MouseDown, press); });
+  if (target && target->Enabled) Raise([&] { Fire(target->MouseDown, press); });
   return target != nullptr;
 }
 
@@ -57,7 +57,7 @@ std::string ClickControl(Control& control) {
     return "";
   }
   if (auto* icon = dynamic_cast<TrayIcon*>(&control)) {
-    Raise([&] { Fire(icon->Click); });
+    if (icon->Enabled) Raise([&] { Fire(icon->Click); });
     return "";
   }
   const bool clicked = Click<Label>(control) || Click<Button>(control) || Click<Picture>(control) ||
@@ -68,6 +68,7 @@ std::string ClickControl(Control& control) {
 std::string PressControl(Control& control, const MousePress& press) {
   const auto press_once = [&](const MousePress& once) {
     if (auto* form = dynamic_cast<Form*>(&control)) {
+      if (!form->Enabled) return true;
       Raise([&] { form->Press(once); });
       Raise([&] { form->Release(once); });
       return true;
@@ -80,7 +81,7 @@ std::string PressControl(Control& control, const MousePress& press) {
   }
   if (press_once(press)) return "";
   if (auto* icon = dynamic_cast<TrayIcon*>(&control); icon && press.button == MouseButton::Right) {
-    Raise([&] { Fire(icon->SecondaryClick); });
+    if (icon->Enabled) Raise([&] { Fire(icon->SecondaryClick); });
     return "";
   }
   return press.button == MouseButton::Right ? CannotBe(control, "pressed on the right")
@@ -88,21 +89,18 @@ std::string PressControl(Control& control, const MousePress& press) {
 }
 
 std::string SelectEntry(Control& control, const std::string& entry, bool by_text) {
-  int index = static_cast<int>(LenientNumber(entry));
-  if (auto* tabs = dynamic_cast<TabStrip*>(&control)) {
-    for (size_t i = 0; by_text && i < tabs->Tabs.size(); ++i) {
-      if (tabs->Tabs[i] == entry) index = static_cast<int>(i);
-    }
-    return Guarded([&] { tabs->Select(index + 1); }) ? "" : "no such tab";
-  }
+  auto* tabs = dynamic_cast<TabStrip*>(&control);
   auto* list = dynamic_cast<ListControl*>(&control);
-  if (!list) return CannotBe(control, "selected from");
-  if (by_text) {
-    const auto& items = list->Items();
-    index = static_cast<int>(std::find(items.begin(), items.end(), entry) - items.begin());
-  }
-  if (index < 0 || index >= list->Count()) return "the list has no such entry";
-  if (list->Enabled) Raise([&] { list->Select(index); });
+  if (!tabs && !list) return CannotBe(control, "selected from");
+  const std::vector<std::string>& items = tabs ? tabs->Tabs : list->Items();
+  int index = static_cast<int>(std::find(items.begin(), items.end(), entry) - items.begin());
+  if (!by_text && !Guarded([&] { index = WholeNumber(NumberText(StrictNumber(entry))); })) return "no number";
+  if (index < 0 || index >= static_cast<int>(items.size())) return "there is no such entry";
+  if (!control.Enabled) return "";
+  Raise([&] {
+    if (tabs) tabs->Select(index + 1);
+    if (list) list->Select(index);
+  });
   return "";
 }
 

@@ -1,5 +1,6 @@
 #include "platform/xml.h"
 
+#include <algorithm>
 #include <unordered_map>
 #include <vector>
 
@@ -20,10 +21,14 @@ pugi::xml_node NextNode(pugi::xml_node node, pugi::xml_node top) {
   return node == top ? pugi::xml_node() : node.next_sibling();
 }
 
-// Whether the text declares the one encoding besides UTF-8 that feeds use and the library does not know.
+// Whether a text is in windows-1252, which the library does not know: it says so, or it says nothing and is
+// no UTF-8.
 bool IsWindows1252(std::string_view text) {
-  if (!text.starts_with("<?xml")) return false;
-  const std::string declaration = LowerCase(text.substr(0, text.find("?>")));
+  const size_t start = std::min(text.find_first_not_of(" \t\r\n"), text.size());
+  std::string declaration;
+  if (text.substr(start).starts_with("<?xml"))
+    declaration = LowerCase(text.substr(start, text.find("?>") - start));
+  if (declaration.find("encoding") == std::string::npos) return !IsUtf8(text);
   return declaration.find("windows-1252") != std::string::npos;
 }
 

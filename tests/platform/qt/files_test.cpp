@@ -61,6 +61,16 @@ TEST_F(RealFiles, NamesMatchWithoutRegardToCase) {
   EXPECT_EQ(QDir(Install("temp")).entryList(QDir::Files), QStringList{"Picture.GIF"});
 }
 
+TEST_F(RealFiles, AnInstallFolderOfOtherCaseIsTheInstallFolder) {
+  QTemporaryDir other;
+  Put(other.path() + "/Program Files/Skyloft/sklt.dat", "data");
+  EXPECT_TRUE(SetUpDrive(other.path(), share.path()));
+  EXPECT_EQ(ReadFile(kInstall + "\\sklt.dat"), "data");
+  EXPECT_EQ(QDir(other.path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot), QStringList{"Program Files"});
+}
+
+TEST_F(RealFiles, ADriveThatCannotBeMadeIsTold) { EXPECT_FALSE(SetUpDrive("/dev/null/x", share.path())); }
+
 TEST_F(RealFiles, InstalledPicturesStandBehindTheRootsOwn) {
   EXPECT_EQ(ReadFile(kInstall + "\\icons\\play.gif"), "installed");
   EXPECT_EQ(ReadFile(kInstall + "\\Icons\\PLAY.gif"), "installed");
