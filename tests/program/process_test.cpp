@@ -110,6 +110,26 @@ TEST(Process, SignalEndsItWhileAFetchHangs) {
   EXPECT_EQ(run.Wait().code, 0);
 }
 
+TEST(Process, SignalBeforeTheStoresAreReadLosesNothing) {
+  const Folder folder;
+  SetUpTowns(folder);
+  const QByteArray store = ReadBytes(folder.Path("root/registry.ini"));
+  const feed::RunningServer server({"--port", "0", "--log", folder.Path("log").toStdString(), "--fault",
+                                    "/skyloft/config/hosts.xml=hang"});
+  ProgramRun run(folder, InRoot(folder, {"--hosts", "127.0.0.1:" + QString::number(server.Port())}));
+  ASSERT_TRUE(Within(20000, [&] { return !ReadLog(folder.Path("log")).empty(); }));
+  kill(run.Process(), SIGTERM);
+  EXPECT_EQ(run.Wait().code, 0);
+  EXPECT_EQ(ReadBytes(folder.Path("root/registry.ini")), store);
+}
+
+TEST(Files, ARootThatCannotBeMadeIsABadOption) {
+  const Folder folder;
+  const Ending ending = ProgramRun(folder, {"--root", "/dev/null/x"}).Wait();
+  EXPECT_EQ(ending.code, 2);
+  EXPECT_NE(ending.errors.find("/dev/null/x"), std::string::npos);
+}
+
 TEST(Files, RootKeepsEverythingInside) {
   const Folder folder;
   const Ending ending =

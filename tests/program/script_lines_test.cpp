@@ -47,6 +47,12 @@ const BadLine kBadLines[] = {
     {"MenuEntryOutsideItsArray", "menu TrayLocationTitle 10"},
     {"ClockWithoutADate", "clock soon"},
     {"UnknownAnswer", "answer Maybe"},
+    {"WaitForNoNumber", "wait abc"},
+    {"CheckNeitherOnNorOff", "check SystemOptionsForm.ShowAlmanac maybe"},
+    {"TimersNeitherOnNorOff", "timers maybe"},
+    {"IndexThatIsNoNumber", "select MainForm.LocationSelection Denver"},
+    {"PressNowhere", "press MainForm a b left"},
+    {"UnknownTab", "select SystemOptionsForm.TabStripOptions \"Nothing\""},
     {"SnapshotWithoutAFolder", "snapshot /dev/null/s"},
 };
 

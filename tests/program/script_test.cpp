@@ -29,6 +29,30 @@ until idle 5000
 )");
 }
 
+TEST(Script, AValueOfSeveralWordsNeedsNoQuotes) {
+  const Folder folder;
+  ExpectThrough(folder,
+                "until MainForm.LocationLabel caption Lawrence, KS 5000\n"
+                "until MainForm.LocationLabel caption \"Lawrence, KS\" 5000\n");
+}
+
+TEST(Script, AQuoteInAQuotedTextIsWrittenWithABackslash) {
+  const Folder folder;
+  ExpectThrough(folder, R"(type SystemOptionsForm.Email1Value "say \"hi\" \\ there"
+expect SystemOptionsForm.Email1Value value say "hi" \ there
+)");
+}
+
+TEST(Script, TabsAreCountedFromZeroLikeLists) {
+  const Folder folder;
+  ExpectThrough(folder,
+                "select SystemOptionsForm.TabStripOptions 1\n"
+                "expect SystemOptionsForm.TabStripOptions text Ticker\n"
+                "expect SystemOptionsForm.TabStripOptions index 1\n"
+                "select SystemOptionsForm.TabStripOptions \"Update\"\n"
+                "expect SystemOptionsForm.TabStripOptions index 2\n");
+}
+
 TEST(Script, TypeReplacesTheText) {
   const Folder folder;
   ExpectThrough(folder, R"(type SystemOptionsForm.Email1Value someone@skyloft.example

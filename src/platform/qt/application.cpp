@@ -60,18 +60,18 @@ QString MakeDemoFolder() {
   return folder;
 }
 
-void SetUpFolders(const AppOptions& options) {
+bool SetUpFolders(const AppOptions& options) {
   const QString share = QDir(QString::fromStdString(ProgramFolder()) + "/../share/skyloft").absolutePath();
   QDir::setSearchPaths("skin", {share + "/skin"});
   if (options.root.empty() && !options.demo) {
     using Paths = QStandardPaths;
-    SetUpDrive(Paths::writableLocation(Paths::GenericDataLocation) + "/skyloft", share);
     SetUpStore(Paths::writableLocation(Paths::GenericConfigLocation) + "/skyloft");
-    return;
+    return SetUpDrive(Paths::writableLocation(Paths::GenericDataLocation) + "/skyloft", share);
   }
   const QString root = options.root.empty() ? MakeDemoFolder() : QString::fromLocal8Bit(options.root.c_str());
-  SetUpDrive(root, share);
+  if (!SetUpDrive(root, share)) return false;
   SetUpStore(DriveRoot());
+  return true;
 }
 
 // The clock of the built-in server: the moment at which ours stands, in GMT.
@@ -136,7 +136,7 @@ int RunApplication(int argc, char** argv, const AppOptions& options) {
   if (!SetZone(QString::fromStdString(options.zone))) return Refuse("no time zone", options.zone);
   if (!options.now.empty()) StopClock(ReadDate(options.now));
   if (!options.script.empty() && !LoadScript(options.script)) return Refuse("cannot read", options.script);
-  SetUpFolders(options);
+  if (!SetUpFolders(options)) return Refuse("cannot keep files in", options.root);
   SetUpServer(options);
 
   QApplication application(argc, argv);
