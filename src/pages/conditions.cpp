@@ -38,8 +38,40 @@ std::string PageHead(const std::string& title) {
   });
 }
 
-std::string PageFoot() {
-  return Join({"       </FONT></P></TD>", "    </tr>", "  </table>", "</div>", "</body>", "</html>"});
+// What the two small pages differ in, and their values.
+struct SmallPage {
+  std::string title;
+  std::string kind;           // first word of the heading
+  std::string under_heading;  // in the heading's cell
+  std::string icon, sky, temperature, dewpoint, feels_like, humidity, wind_direction, wind_speed;
+  std::string below_wind;
+};
+
+std::string BuildSmallPage(const SmallPage& page) {
+  return PageHead(page.title) +
+         Join({
+             "    <tr>",
+             "          <TD vAlign=center align=middle bgColor=#ffffcc><B>" + page.kind,
+             "            Conditions</B></BR>" + page.under_heading + "</font></TD>",
+             "    </tr>",
+             "    <tr>",
+             "          <TD bgColor=#003399",
+             "            <P align=center><FONT color=#ffffff><IMG height=30",
+             "            src='file:" + page.icon + "' width=40 align=absMiddle border=0>  <B>" + page.sky,
+             "            <BR>Temperature</B>: " + page.temperature,
+             " F<B><BR>Dewpoint</B>: " + page.dewpoint,
+             " F<B><BR>Feels",
+             "            Like</B>: " + page.feels_like,
+             " F<B><BR>Humidity</B>: " + page.humidity,
+             " %<B><BR>Wind</B>: " + page.wind_direction + " " + page.wind_speed + " mph",
+             page.below_wind,
+             "       </FONT></P></TD>",
+             "    </tr>",
+             "  </table>",
+             "</div>",
+             "</body>",
+             "</html>",
+         });
 }
 
 }  // namespace
@@ -47,25 +79,42 @@ std::string PageFoot() {
 std::string BuildCurrentConditionsPage() {
   const int slot = SelectedLocation();
   const ObservationTables& reading = ObservationRecord;
-  return PageHead("Current Conditions Reported At") +
-         Join({
-             "    <tr>",
-             "          <TD vAlign=center align=middle bgColor=#ffffcc><B>Current",
-             "            Conditions</B></BR></font></TD>",
-             "    </tr>",
-             "    <tr>",
-             "          <TD bgColor=#003399",
-             "            <P align=center><FONT color=#ffffff><IMG height=30",
-             "            src='file:" + reading.Ic[slot] + "' width=40 align=absMiddle border=0>  <B>" +
-                 reading.Desc[slot],
-             "            <BR>Temperature</B>: " + reading.Tf[slot] +
-                 " F<B><BR>Dewpoint</B>: " + reading.Df[slot] + " F<B><BR>Feels",
-             "            Like</B>: " + reading.At[slot] + " F<B><BR>Humidity</B>: " + reading.Rh[slot] +
-                 " %<B><BR>Wind</B>: " + reading.Wd[slot] + " " + reading.Ws[slot] + " mph",
-             "            <BR><B>Pressure</B>: " + reading.Slp[slot] +
-                 " in<BR><B>Visibility</B>: " + reading.Vi[slot] + " mi",
-         }) +
-         PageFoot();
+  return BuildSmallPage({
+      .title = "Current Conditions Reported At",
+      .kind = "Current",
+      .under_heading = "",
+      .icon = reading.Ic[slot],
+      .sky = reading.Desc[slot],
+      .temperature = reading.Tf[slot],
+      .dewpoint = reading.Df[slot],
+      .feels_like = reading.At[slot],
+      .humidity = reading.Rh[slot],
+      .wind_direction = reading.Wd[slot],
+      .wind_speed = reading.Ws[slot],
+      .below_wind = "            <BR><B>Pressure</B>: " + reading.Slp[slot] +
+                    " in<BR><B>Visibility</B>: " + reading.Vi[slot] + " mi",
+  });
+}
+
+std::string BuildForecastConditionsPage(const std::string& title, const std::string& time,
+                                        const std::string& icon, const std::string& sky,
+                                        const std::string& temperature, const std::string& dewpoint,
+                                        const std::string& feels_like, const std::string& humidity,
+                                        const std::string& wind_direction, const std::string& wind_speed) {
+  return BuildSmallPage({
+      .title = "Forecast Conditions",
+      .kind = "Forecast",
+      .under_heading = "</BR>" + title + time + "            ",
+      .icon = icon,
+      .sky = sky,
+      .temperature = temperature,
+      .dewpoint = dewpoint,
+      .feels_like = feels_like,
+      .humidity = humidity,
+      .wind_direction = wind_direction,
+      .wind_speed = wind_speed,
+      .below_wind = "",
+  });
 }
 
 void CurrentConditions() {

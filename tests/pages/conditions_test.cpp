@@ -79,6 +79,34 @@ TEST_F(ConditionsPage, CurrentConditionsShowsTitleAndPageOfTheSelectedLocation) 
   EXPECT_EQ(MainForm.WeatherConditionsBanner.Document.Get(), kExpectedPage);
 }
 
+// The forecast page by its fragments; values unlike each other, so that none can stand in another's place.
+std::string ForecastPage(const std::string& direction) {
+  return std::string("<html>") + "<head>" +
+         "<meta http-equiv='Content-Type' content='text/html; charset=windows-1252'>" +
+         "<title>Forecast Conditions</title>" + "<style type='text/css'>" + "body { overflow:hidden; }" +
+         "TD" + "{" + "font-family: Tahoma;" + "font-size: 11px;" + "}" + "P" + "{" + "font-family: Tahoma;" +
+         "font-size: 11px;" + "}" + "</style>" + "<link rel='stylesheet' type='text/css' href='" +
+         kStyleSheet + "'>" + "</head>" + "<body topmargin='0' leftmargin='0' bgcolor='#000000'>" +
+         "<div align='left'>" + "  <table border='0' width='150' cellspacing='0' cellpadding='2'>" +
+         "    <tr>" + "          <TD vAlign=center align=middle bgColor=#ffffcc><B>Forecast" +
+         "            Conditions</B></BR>" + "</BR>" + "Town, KS" + "3/8/2003 9:00:00 AM" + "            " +
+         "</font></TD>" + "    </tr>" + "    <tr>" + "          <TD bgColor=#003399" +
+         "            <P align=center><FONT color=#ffffff><IMG height=30" +
+         "            src='file:" + "C:\\x\\icons\\rain.gif" + "' width=40 align=absMiddle border=0>  <B>" +
+         "rain" + "            <BR>Temperature</B>: " + "41" + " F<B><BR>Dewpoint</B>: " + "38" +
+         " F<B><BR>Feels" + "            Like</B>: " + "35" + " F<B><BR>Humidity</B>: " + "90" +
+         " %<B><BR>Wind</B>: " + direction + " " + "7" + " mph" + "       </FONT></P></TD>" + "    </tr>" +
+         "  </table>" + "</div>" + "</body>" + "</html>";
+}
+
+TEST_F(ConditionsPage, TheForecastPageIsBuiltOfItsFragmentsAndStopsAtTheWind) {
+  for (const char* direction : {"NNW", "  E", "VAR"}) {
+    EXPECT_EQ(BuildForecastConditionsPage("Town, KS", "3/8/2003 9:00:00 AM", "C:\\x\\icons\\rain.gif", "rain",
+                                          "41", "38", "35", "90", direction, "7"),
+              ForecastPage(direction));
+  }
+}
+
 TEST_F(ConditionsPage, WithoutALocationTheCallerGetsTheError) {
   EXPECT_THROW(BuildCurrentConditionsPage(), RuntimeError);
   EXPECT_THROW(CurrentConditions(), RuntimeError);
