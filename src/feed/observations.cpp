@@ -1,5 +1,6 @@
 #include "feed/observations.h"
 
+#include <algorithm>
 #include <deque>
 #include <vector>
 
@@ -127,6 +128,22 @@ void GetCurrentData() {
     QueryServer(QueryUrl(JoinZipCodes(slots), "&t=xml&d=current"),
                 [&](const XmlDocument& reply) { StoreReadings(reply, slots); });
   });
+}
+
+void QueryHistoricalData(HistoricalReadings& out) {
+  QueryServer(QueryUrl(JoinZipCodes({SelectedLocation()}), "&t=xml&d=currenthistorical"),
+              [&](const XmlDocument& reply) {
+                const std::pair<const char*, TextList*> tags[] = {
+                    {"Lt", &out.Lt}, {"Ic", &out.Ic}, {"Desc", &out.Desc}, {"Tf", &out.Tf}, {"Df", &out.Df},
+                    {"Rh", &out.Rh}, {"Wd", &out.Wd}, {"Ws", &out.Ws},     {"Vi", &out.Vi},
+                };
+                // As many rows as the fullest tag has: so a cell lacking in another is met when it is read.
+                for (const auto& [tag, list] : tags) {
+                  int count = -1;
+                  ReadXmlList(reply, tag, *list, count);
+                  out.rows = std::clamp(count + 1, out.rows, HistoricalReadings::kRows);
+                }
+              });
 }
 
 void GetCurrentConditionsRT(const std::string& longitude, const std::string& latitude, PointConditions& out) {

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "base/tables.h"
+#include "feed/xml_readers.h"
 
 namespace skyloft {
 
@@ -37,6 +38,17 @@ void GetMetaData();
 // Fetches the locations whose stamp differs from the one held; sends nothing when there is none. A reply with
 // too few elements stops at the first missing one, and the slots before it are updated.
 void GetCurrentData();
+
+// The last hours at a location: texts as they arrived, rows in the order of the reply. A cell that the reply
+// lacked raises when it is read.
+struct HistoricalReadings {
+  static constexpr int kRows = 101;  // what a longer reply is cut off at
+  int rows = 0;                      // 0 without a reply
+  TextList Lt{kRows}, Ic{kRows}, Desc{kRows}, Tf{kRows}, Df{kRows}, Rh{kRows};
+  TextList Wd{kRows}, Ws{kRows}, Vi{kRows};  // Wd in degrees, Ic a file name
+};
+// Fetches them for the selected location. Raises when there is none.
+void QueryHistoricalData(HistoricalReadings& out);
 
 // Current conditions at a position. No caller yet.
 struct PointConditions {
