@@ -101,12 +101,11 @@ void HtmlView::ShowScroller() {
   delete std::exchange(scroller_, nullptr);
   const auto applet = document_ ? document_->root()->select_one("applet") : nullptr;
   if (!applet) return;
+  QHash<QString, QString> parameters;
   for (const auto& param : applet->select_all("param")) {
-    if (AttributeOf(param, "name").compare("text", Qt::CaseInsensitive) == 0) {
-      scroller_ = new HtmlScroller(AttributeOf(param, "value"), this);
-    }
+    parameters.insert(AttributeOf(param, "name").toLower(), AttributeOf(param, "value"));
   }
-  if (!scroller_) return;
+  scroller_ = new HtmlScroller(parameters, this);
   scroller_->setGeometry(rect());
   scroller_->show();
 }
