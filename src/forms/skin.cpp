@@ -58,10 +58,10 @@ constexpr PlaceRow kSkin[] = {
     {"MainForm.Sponsor2", 30, 560, 740, 15},
 
     {"InitializingForm", 0, 0, 420, 200},
-    {"InitializingForm.SoftwareVersion", 24, 92, 372, 18},
-    {"InitializingForm.SoftwareStatus", 24, 118, 372, 18},
-    {"InitializingForm.ProgressBar", 24, 142, 372, 12},
-    {"InitializingForm.EmailLink", 24, 168, 372, 18},
+    {"InitializingForm.SoftwareVersion", 24, 16, 372, 18},
+    {"InitializingForm.SoftwareStatus", 24, 128, 372, 18},
+    {"InitializingForm.ProgressBar", 24, 150, 372, 12},
+    {"InitializingForm.EmailLink", 24, 172, 372, 18},
 
     {"TickerForm", 0, 0, 800, 35},
     {"TickerForm.Sponsor4", 0, 0, 90, 35},

@@ -17,6 +17,7 @@ QString SkinStyle() {
     QLabel#SoftwareVersion, QLabel#SoftwareStatus { color: #dbe6ff; }
     QLabel#EmailLink { color: #7fb0ff; }
     QLabel#Heading { font-weight: bold; font-size: 18px; color: #ffd35c; }
+    QWidget#SystemFontForm QLabel#Heading { font-size: 15px; }
     QLineEdit { background: #0b1428; border: 1px solid #3a568c; border-radius: 4px; padding: 1px 4px;
                 selection-background-color: #3f6fd0; }
     QLineEdit:focus { border-color: #ffd35c; }
