@@ -22,6 +22,11 @@ if(SKYLOFT_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
+option(SKYLOFT_FUZZ "Build the fuzzers; needs clang" OFF)
+if(SKYLOFT_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+
 option(SKYLOFT_TIDY "Run clang-tidy while compiling" OFF)
 
 # Our own code compiles without a warning; libraries' headers are theirs.
