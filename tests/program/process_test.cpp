@@ -3,27 +3,13 @@
 #include <signal.h>
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
-#include <QThread>
-
-#include <functional>
 
 #include "feedserver/running_server.h"
 #include "program/program.h"
 
 namespace skyloft::program {
 namespace {
-
-bool Within(int milliseconds, const std::function<bool()>& reached) {
-  QElapsedTimer clock;
-  clock.start();
-  while (!reached()) {
-    if (clock.elapsed() > milliseconds) return false;
-    QThread::msleep(10);
-  }
-  return true;
-}
 
 // "comm", state and parent of a process; empty when there is none of that id.
 QList<QByteArray> StateOf(pid_t process) {
@@ -47,15 +33,6 @@ pid_t FeedOf(pid_t parent) {
     if (!state.isEmpty() && state[0].startsWith("skyloft-feed") && state[2].toInt() == parent) return process;
   }
   return 0;
-}
-
-// A run with the five towns that does its acts, saves a snapshot to s/ and then stays.
-std::unique_ptr<ProgramRun> StartAndStay(const Folder& folder, const QByteArray& acts = {}) {
-  folder.Write("script", acts + "snapshot " + folder.Path("s").toUtf8() + "\nwait 60000\n");
-  auto run =
-      std::make_unique<ProgramRun>(folder, InRoot(folder, {"--demo", "--script", folder.Path("script")}));
-  EXPECT_TRUE(Within(20000, [&] { return Snapshot(folder.Path("s")).Saved(); }));
-  return run;
 }
 
 TEST(Process, FeedEndsWithAKilledProgram) {

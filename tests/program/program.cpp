@@ -5,10 +5,12 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QJsonDocument>
 #include <QProcessEnvironment>
 #include <QSettings>
+#include <QThread>
 
 namespace skyloft::program {
 namespace {
@@ -49,7 +51,7 @@ void Folder::Write(const QString& name, const QByteArray& bytes) const {
 QStringList Folder::Entries(const QString& name) const {
   const QDir top(Path(name));
   QStringList entries;
-  QDirIterator walk(top.path(), QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
+  QDirIterator walk(top.path(), QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
                     QDirIterator::Subdirectories);
   while (walk.hasNext()) entries << top.relativeFilePath(walk.next());
   entries.sort();
@@ -113,6 +115,25 @@ void SetUpTowns(const Folder& folder, const QStringList& options) {
   const Ending ending = RunInRoot(folder, QStringList{"--demo"} + options, "menu ExitSkyloft\n");
   ASSERT_EQ(ending.code, 0) << ending.errors;
   ASSERT_EQ(folder.Setting("Settings/LocationIndexMax"), "4");
+}
+
+bool Within(int milliseconds, const std::function<bool()>& reached) {
+  QElapsedTimer clock;
+  clock.start();
+  while (!reached()) {
+    if (clock.elapsed() > milliseconds) return false;
+    QThread::msleep(10);
+  }
+  return true;
+}
+
+std::unique_ptr<ProgramRun> StartAndStay(const Folder& folder, const QByteArray& acts,
+                                         const QStringList& options) {
+  folder.Write("script", acts + "snapshot " + folder.Path("s").toUtf8() + "\nwait 60000\n");
+  auto run = std::make_unique<ProgramRun>(
+      folder, InRoot(folder, options + QStringList{"--script", folder.Path("script")}));
+  EXPECT_TRUE(Within(20000, [&] { return Snapshot(folder.Path("s")).Saved(); }));
+  return run;
 }
 
 Snapshot::Snapshot(const QString& folder)

@@ -1,6 +1,8 @@
 // The built program as a child process: its folders, its ending, and what it saved for outside eyes.
 #pragma once
 
+#include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -68,6 +70,12 @@ QStringList InRoot(const Folder& folder, const QStringList& options);
 Ending RunInRoot(const Folder& folder, QStringList options, const QByteArray& script = {});
 // The same, as it must end with code 0: makes the five towns known.
 void SetUpTowns(const Folder& folder, const QStringList& options = {});
+
+// Looks again and again until `reached` holds; false when it has not in that time.
+bool Within(int milliseconds, const std::function<bool()>& reached);
+// A run that does its acts, saves a snapshot to s/ and then stays.
+std::unique_ptr<ProgramRun> StartAndStay(const Folder& folder, const QByteArray& acts = {},
+                                         const QStringList& options = {"--demo"});
 
 // What a snapshot holds.
 class Snapshot {

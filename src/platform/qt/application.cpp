@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <cstdio>
+#include <optional>
 
 #include <QApplication>
 #include <QDir>
@@ -14,6 +15,7 @@
 #include <QStandardPaths>
 #include <QTimer>
 
+#include "core/chrome.h"
 #include "core/mainform.h"
 #include "feed/addresses.h"
 #include "feed/hosts.h"
@@ -28,6 +30,7 @@
 #include "platform/qt/registry_qt.h"
 #include "platform/qt/screen_qt.h"
 #include "platform/qt/script.h"
+#include "platform/qt/single_instance.h"
 #include "platform/qt/skin_style.h"
 #include "platform/qt/snapshot.h"
 #include "platform/registry_store.h"
@@ -60,18 +63,20 @@ QString MakeDemoFolder() {
   return folder;
 }
 
-bool SetUpFolders(const AppOptions& options) {
+// Makes the drive; the folder of the store, which only the first process opens. Nothing when it cannot be
+// made.
+std::optional<QString> SetUpFolders(const AppOptions& options) {
   const QString share = QDir(QString::fromStdString(ProgramFolder()) + "/../share/skyloft").absolutePath();
   QDir::setSearchPaths("skin", {share + "/skin"});
   if (options.root.empty() && !options.demo) {
     using Paths = QStandardPaths;
-    SetUpStore(Paths::writableLocation(Paths::GenericConfigLocation) + "/skyloft");
-    return SetUpDrive(Paths::writableLocation(Paths::GenericDataLocation) + "/skyloft", share);
+    if (!SetUpDrive(Paths::writableLocation(Paths::GenericDataLocation) + "/skyloft", share))
+      return std::nullopt;
+    return Paths::writableLocation(Paths::GenericConfigLocation) + "/skyloft";
   }
   const QString root = options.root.empty() ? MakeDemoFolder() : QString::fromLocal8Bit(options.root.c_str());
-  if (!SetUpDrive(root, share)) return false;
-  SetUpStore(DriveRoot());
-  return true;
+  if (!SetUpDrive(root, share)) return std::nullopt;
+  return DriveRoot();
 }
 
 // The clock of the built-in server: the moment at which ours stands, in GMT.
@@ -93,7 +98,7 @@ void OnTerminate(int) {
 
 // SIGTERM and the end of the desktop's session leave as the menu's exit does.
 void WatchEnd(QApplication& application) {
-  if (socketpair(AF_UNIX, SOCK_STREAM, 0, signal_pipe) == 0) {
+  if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, signal_pipe) == 0) {
     auto* notifier = new QSocketNotifier(signal_pipe[0], QSocketNotifier::Read, &application);
     QObject::connect(notifier, &QSocketNotifier::activated, [] { Raise(LeaveProgram); });
     struct sigaction action = {};
@@ -113,6 +118,12 @@ void TakeSnapshotAndEnd() {
   const bool saved = SaveSnapshot(QString::fromLocal8Bit(TheRun().options.snapshot.c_str()));
   if (!saved) std::fprintf(stderr, "skyloft: cannot save to %s\n", TheRun().options.snapshot.c_str());
   EndWith(saved ? 0 : 2);
+}
+
+// For a second start. A program that is still starting comes up by itself, and one that could not start has
+// nothing else to show.
+void ComeForward() {
+  if (Start.Loaded && *Start.LocalView) Raise(ShowAgain);
 }
 
 // Everything after the event loop has begun.
@@ -136,7 +147,10 @@ int RunApplication(int argc, char** argv, const AppOptions& options) {
   if (!SetZone(QString::fromStdString(options.zone))) return Refuse("no time zone", options.zone);
   if (!options.now.empty()) StopClock(ReadDate(options.now));
   if (!options.script.empty() && !LoadScript(options.script)) return Refuse("cannot read", options.script);
-  if (!SetUpFolders(options)) return Refuse("cannot keep files in", options.root);
+  const auto store = SetUpFolders(options);
+  if (!store) return Refuse("cannot keep files in", options.root);
+  if (!BecomeFirst(DriveRoot())) EndWith(0);
+  SetUpStore(*store);
   SetUpServer(options);
 
   QApplication application(argc, argv);
@@ -147,6 +161,7 @@ int RunApplication(int argc, char** argv, const AppOptions& options) {
   application.setStyleSheet(SkinStyle());
   application.setWindowIcon(QIcon("skin:app.png"));
   WatchEnd(application);
+  AnswerLaterStarts(ComeForward);
   if (!options.script.empty() || !options.snapshot.empty()) AnswerBoxesByScript();
 
   AtEnd(SyncStore);
