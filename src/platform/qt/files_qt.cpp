@@ -47,7 +47,7 @@ void WriteFile(const std::string& path, const std::string& bytes) {
   const bool written =
       file.open(QIODevice::WriteOnly) &&
       file.write(bytes.data(), static_cast<qint64>(bytes.size())) == static_cast<qint64>(bytes.size()) &&
-      file.commit();
+      file.flush() && file.commit();  // a commit alone passes over what its own flush could not write
   if (!written) throw Failure("cannot write", path);
   StampFile(*name);
 }

@@ -277,7 +277,8 @@ bool HttpGetFile(HttpControl& control, const std::string& path) {
   if (!file) return false;
   Sink sink{kLargestFile, {}, std::make_unique<QSaveFile>(*file)};
   if (!sink.file->open(QIODevice::WriteOnly)) return false;
-  if (!RunFetch(control, sink) || !sink.file->commit()) return false;
+  // A commit alone passes over what its own flush could not write.
+  if (!RunFetch(control, sink) || !sink.file->flush() || !sink.file->commit()) return false;
   StampFile(*file);
   return true;
 }
