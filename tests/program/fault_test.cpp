@@ -90,20 +90,34 @@ TEST(WrongCounts, NextReadingsSetThemRight) {
   EXPECT_NE(page.find("Humidity</B>: " + TextsOf(feed, "Rh").at(0) + " %"), page.npos) << page;
 }
 
+// The version and the forecasts' server are not among the elements that go.
+TEST(WrongCounts, HostTableThatStillNamesTheForecastsServes) {
+  const Folder folder;
+  SetUpTowns(folder);
+  ASSERT_EQ(StartAgainst(folder, "old", kFeedNow, {}).code, 0);
+  const Ending ending = StartAgainst(folder, "new", kLater, {"/skyloft/config/hosts.xml=wrong-count"});
+  EXPECT_EQ(ending.code, 0) << ending.errors;
+  EXPECT_EQ(ending.errors.find("box "), std::string::npos) << ending.errors;
+  EXPECT_NE(PageIn(folder, "new"), PageIn(folder, "old"));
+}
+
 class HostTableFault : public testing::TestWithParam<const char*> {};
 
 TEST_P(HostTableFault, CountsAsAServerOutOfReach) {
   const Folder folder;
   SetUpTowns(folder);
+  const QByteArray data = ReadBytes(folder.DataFile());
   const Ending ending =
       StartAgainst(folder, "s", kLater, {std::string("/skyloft/config/hosts.xml=") + GetParam()});
   EXPECT_EQ(ending.code, 0);
+  EXPECT_EQ(ReadBytes(folder.DataFile()), data);
   EXPECT_NE(ending.errors.find("box critical \"ERROR: SKYLOFT SERVER UNREACHABLE."), std::string::npos)
       << ending.errors;
   EXPECT_FALSE(Snapshot(folder.Path("s")).Saved());
 }
 
-INSTANTIATE_TEST_SUITE_P(Kinds, HostTableFault, testing::Values("500", "empty", "cut", "garbage", "refuse"),
+INSTANTIATE_TEST_SUITE_P(Kinds, HostTableFault,
+                         testing::Values("500", "empty", "cut", "garbage", "refuse", "huge"),
                          [](const auto& test) { return std::string(test.param); });
 
 }  // namespace

@@ -73,7 +73,19 @@ QByteArray ReadBytes(const QString& file) {
   return opened.open(QIODevice::ReadOnly) ? opened.readAll() : QByteArray();
 }
 
-ProgramRun::ProgramRun(const Folder& folder, const QStringList& options, const QStringList& environment) {
+bool Await(int milliseconds, const std::function<bool()>& reached) {
+  QElapsedTimer clock;
+  clock.start();
+  while (!reached()) {
+    if (clock.elapsed() > milliseconds) return false;
+    QThread::msleep(10);
+  }
+  return true;
+}
+
+ProgramRun::ProgramRun(const Folder& folder, const QStringList& options, const QStringList& environment,
+                       const std::function<void()>& limit) {
+  if (limit) process_.setChildProcessModifier(limit);
   process_.setProcessEnvironment(EnvironmentOf(folder, environment));
   process_.setWorkingDirectory(folder.Path("cwd"));
   process_.setStandardInputFile(QProcess::nullDevice());
@@ -192,6 +204,10 @@ std::vector<Logged> Only(const std::vector<Logged>& requests, const char* file, 
     if (request.Is(file, kind)) wanted.push_back(request);
   }
   return wanted;
+}
+
+bool AwaitRequest(const QString& log, const char* file, const char* kind) {
+  return Await(kPatience, [&] { return !Only(ReadLog(log), file, kind).empty(); });
 }
 
 std::vector<std::string> TextsOf(const std::string& xml, const std::string& tag) {

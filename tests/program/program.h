@@ -42,6 +42,9 @@ class Folder {
 
 QByteArray ReadBytes(const QString& file);
 
+// Looks again and again; false if it was not reached in time.
+bool Await(int milliseconds, const std::function<bool()>& reached);
+
 // How a run ended: its exit code (-1 for a crash, -2 for one that did not end in time) and what it said.
 struct Ending {
   int code = -2;
@@ -49,9 +52,11 @@ struct Ending {
 };
 
 // One run of the program in a test's folders, under the environment and the options given and no others.
+// `limit`, if any, is called in the child before it becomes the program; it may make system calls only.
 class ProgramRun {
  public:
-  ProgramRun(const Folder& folder, const QStringList& options, const QStringList& environment = {});
+  ProgramRun(const Folder& folder, const QStringList& options, const QStringList& environment = {},
+             const std::function<void()>& limit = {});
   ~ProgramRun();
   ProgramRun(const ProgramRun&) = delete;
   ProgramRun& operator=(const ProgramRun&) = delete;
@@ -107,6 +112,8 @@ struct Logged {
 };
 std::vector<Logged> ReadLog(const QString& file);
 std::vector<Logged> Only(const std::vector<Logged>& requests, const char* file, const char* kind = "");
+// Waits until the log of a feed has such a request; false if none came in time.
+bool AwaitRequest(const QString& log, const char* file, const char* kind = "");
 
 // The texts of an element in a reply of the feed, in their order.
 std::vector<std::string> TextsOf(const std::string& xml, const std::string& tag);
