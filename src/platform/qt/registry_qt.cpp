@@ -1,9 +1,12 @@
 #include "platform/qt/registry_qt.h"
 
+#include <cstdio>
 #include <map>
-#include <memory>
 
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QMap>
 #include <QSettings>
 #include <QStringList>
 
@@ -15,7 +18,9 @@ namespace skyloft {
 namespace {
 
 struct Store {
-  std::unique_ptr<QSettings> settings;
+  QString file;                      // registry.ini
+  QMap<QString, QVariant> values;    // by path, "HKCU/Software/.../Top"
+  bool changed = false;              // since the last sync
   std::map<StoreKey, QString> open;  // path of each open key, "HKCU/Software/.../"
   StoreKey last = 0;
 };
@@ -45,11 +50,8 @@ StoreKey Open(const QString& path) {
 }
 
 bool Exists(const QString& path) {
-  QSettings& settings = *TheStore().settings;
-  settings.beginGroup(path.chopped(1));
-  const bool exists = !settings.allKeys().isEmpty();
-  settings.endGroup();
-  return exists;
+  const auto next = TheStore().values.lowerBound(path);
+  return next != TheStore().values.end() && next.key().startsWith(path);
 }
 
 // A value with a comma may read back as a list.
@@ -58,11 +60,40 @@ QString TextOf(const QVariant& value) {
   return value.toString();
 }
 
+bool IsWritable() {
+  const QFileInfo file(TheStore().file);
+  return file.exists() ? file.isWritable() : QFileInfo(file.path()).isWritable();
+}
+
+QMap<QString, QVariant> ReadValues(const QString& file) {
+  const QSettings settings(file, QSettings::IniFormat);
+  QMap<QString, QVariant> values;
+  for (const QString& path : settings.allKeys()) values[path] = settings.value(path);
+  return values;
+}
+
+// Writes the values to a file of their own and reads them back, as a full disk may take a part of them only.
+bool WriteValues(const QString& file) {
+  QFile::remove(file);
+  {
+    QSettings settings(file, QSettings::IniFormat);
+    for (const auto& [path, value] : TheStore().values.asKeyValueRange()) settings.setValue(path, value);
+  }
+  const QMap<QString, QVariant> written = ReadValues(file);
+  if (written.size() != TheStore().values.size()) return false;
+  for (const auto& [path, value] : TheStore().values.asKeyValueRange()) {
+    if (TextOf(written.value(path)) != TextOf(value)) return false;
+  }
+  return true;
+}
+
 }  // namespace
 
 void SetUpStore(const QString& folder) {
   QDir().mkpath(folder);
-  TheStore().settings = std::make_unique<QSettings>(folder + "/registry.ini", QSettings::IniFormat);
+  TheStore() = {};
+  TheStore().file = folder + "/registry.ini";
+  TheStore().values = ReadValues(TheStore().file);
 }
 
 int OpenStoreKey(std::uint32_t root, const std::string& key, StoreKey& handle) {
@@ -73,7 +104,7 @@ int OpenStoreKey(std::uint32_t root, const std::string& key, StoreKey& handle) {
 }
 
 int CreateStoreKey(std::uint32_t root, const std::string& key, StoreKey& handle) {
-  if (!TheStore().settings->isWritable()) return kStoreRefused;
+  if (!IsWritable()) return kStoreRefused;
   handle = Open(KeyPath(root, key));
   return 0;
 }
@@ -82,8 +113,8 @@ int QueryStoreValue(StoreKey handle, const std::string& name, RegistryValue& val
   const auto key = TheStore().open.find(handle);
   if (key == TheStore().open.end()) return kStoreMissing;
   const QString path = key->second + ToQt(name);
-  if (!TheStore().settings->contains(path)) return kStoreMissing;
-  const QVariant stored = TheStore().settings->value(path);
+  if (!TheStore().values.contains(path)) return kStoreMissing;
+  const QVariant stored = TheStore().values.value(path);
   if (std::holds_alternative<std::string>(value)) value = FromQt(TextOf(stored));
   if (std::holds_alternative<bool>(value)) value = stored.toBool();
   if (std::holds_alternative<std::int32_t>(value)) value = std::int32_t{stored.toInt()};
@@ -97,14 +128,24 @@ int SetStoreValue(StoreKey handle, const std::string& name, const RegistryValue&
   if (const auto* text = std::get_if<std::string>(&value)) stored = ToQt(*text);
   if (const auto* flag = std::get_if<bool>(&value)) stored = *flag;
   if (const auto* number = std::get_if<std::int32_t>(&value)) stored = *number;
-  TheStore().settings->setValue(key->second + ToQt(name), stored);
+  QVariant& cell = TheStore().values[key->second + ToQt(name)];
+  if (cell == stored && cell.typeId() == stored.typeId()) return 0;
+  cell = stored;
+  TheStore().changed = true;
   return 0;
 }
 
 int CloseStoreKey(StoreKey handle) { return TheStore().open.erase(handle) == 1 ? 0 : kStoreMissing; }
 
 void SyncStore() {
-  if (TheStore().settings) TheStore().settings->sync();
+  Store& store = TheStore();
+  if (!store.changed) return;
+  const QString whole = store.file + ".new";
+  if (WriteValues(whole) && std::rename(QFile::encodeName(whole), QFile::encodeName(store.file)) == 0) {
+    store.changed = false;
+  } else {
+    QFile::remove(whole);
+  }
 }
 
 std::string ReadProfileText(const std::string& path, const std::string& section, const std::string& entry,
