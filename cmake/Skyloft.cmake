@@ -36,7 +36,7 @@ function(skyloft_target target)
     target_compile_options(${target} PRIVATE -Wno-restrict)  # g++ 12 sees overlaps in std::string that are none
   endif()
   if(SKYLOFT_TIDY)
-    set_target_properties(${target} PROPERTIES CXX_CLANG_TIDY "clang-tidy;--quiet")
+    set_target_properties(${target} PROPERTIES CXX_CLANG_TIDY "clang-tidy;--quiet;--extra-arg=-Wno-unknown-warning-option")
   endif()
 endfunction()
 

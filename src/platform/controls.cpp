@@ -18,6 +18,7 @@ Control::Control(Form* form, std::string name, Control* container)
 }
 
 Control& Control::operator=(const Control& other) {
+  if (this == &other) return *this;
   Visible = other.Visible;
   Enabled = other.Enabled;
   ToolTip = other.ToolTip;
@@ -179,7 +180,7 @@ void ImageButton::Up() {
 }
 
 void ImageView::Describe(PropertyList& out) const {
-  Control::Describe(out);
+  Picture::Describe(out);
   out.emplace_back("image", PicturePath());
   out.emplace_back("zoom", Zoom.Get());
   out.emplace_back("view_x", double(ViewX));

@@ -69,7 +69,10 @@ class Control {
    public:
     explicit Property(Control* owner, T value = {}) : owner_(owner), value_(std::move(value)) {}
     Property(const Property&) = delete;
-    Property& operator=(const Property& other) { return *this = other.value_; }
+    Property& operator=(const Property& other) {
+      if (this != &other) *this = other.value_;
+      return *this;
+    }
     Property& operator=(const T& value) {
       if (value == value_) return *this;
       value_ = value;
