@@ -23,6 +23,8 @@ void ConnectForms();
 // The whole start, from the host table to the running timers. An error of its own statements, such as a
 // stored location that the list cannot select, deletes sklt.dat and ends the process; a step that fails ends
 // only itself.
+// On a display without 96 dots per inch only SystemFontForm is shown, whose OK ends the process, and nothing
+// is fetched.
 void LoadMainForm();
 
 // One row of the start under the splash.
