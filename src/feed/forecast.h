@@ -31,7 +31,12 @@ struct ForecastDayFields {
 extern Grid<ForecastHourFields, 5, kForecastHours> ForecastHour;
 extern Grid<ForecastDayFields, 5, kForecastDays> ForecastDay;
 
-// Loads the forecast when the model run has changed. Does nothing yet.
+// Loads the forecast by two queries, by hour and by day, and remembers its model run. A new run on the
+// server: all locations, whatever the mode; none: with mode 1 the last location alone, else nothing is asked.
+// The number of rows is not told anywhere: each tag's elements are shared out evenly among the locations
+// asked for, and the last tag tells how many rows are taken. A reply without rows, a table that is full or a
+// busy transport ends the load; what was copied until then stays, and the model run is not remembered, so
+// that the next refresh tries again.
 void GetForecastData(int mode);
 
 }  // namespace skyloft

@@ -34,6 +34,12 @@ void ReadMatch(const XmlDocument& document, std::string_view tag, int match, std
 
 }  // namespace
 
+void TextList::Put(int index, std::string text) {
+  const size_t cell = CheckedIndex(index, bound_);
+  if (cell >= cells_.size()) cells_.resize(cell + 1);
+  cells_[cell] = std::move(text);
+}
+
 const std::string& TextList::operator[](int index) const {
   const auto& cell = cells_[CheckedIndex(index, cells_.size())];
   if (!cell) throw RuntimeError("the reply has no item " + std::to_string(index));

@@ -18,12 +18,13 @@ namespace skyloft {
 // is filling one beyond the bound.
 class TextList {
  public:
-  explicit TextList(int bound) : cells_(static_cast<size_t>(bound)) {}
-  void Put(int index, std::string text) { cells_[CheckedIndex(index, cells_.size())] = std::move(text); }
+  explicit TextList(int bound) : bound_(static_cast<size_t>(bound)) {}
+  void Put(int index, std::string text);
   const std::string& operator[](int index) const;
 
  private:
-  std::vector<std::optional<std::string>> cells_;
+  size_t bound_;
+  std::vector<std::optional<std::string>> cells_;  // up to the last that was filled
 };
 
 // Texts by location and item; 5 locations of 67 items.
