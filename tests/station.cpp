@@ -2,8 +2,10 @@
 
 #include "alerts/bulletins.h"
 #include "alerts/personal_alerts.h"
+#include "browser/selection.h"
 #include "core/chrome.h"
 #include "core/mainform.h"
+#include "core/refresh.h"
 #include "feed/catalogues.h"
 #include "feed/forecast.h"
 #include "feed/hosts.h"
@@ -19,7 +21,9 @@
 #include "forms/ticker_form.h"
 #include "settings/location_profiles.h"
 #include "settings/settings.h"
+#include "ticker/ticker.h"
 #include "weather/almanac.h"
+#include "weather/periods.h"
 
 namespace skyloft {
 
@@ -48,6 +52,11 @@ Station::Station() {
   Start = {};
   Chrome = {};
   Catalogues = {};
+  Browser = {};
+  Periods = {};
+  ForecastPeriod = {};
+  Refresh = {};
+  TickerRotation = {};
   HostAddress.WebHost = "www.skyloft.example";
   HostTable.forecastserver = "forecast.skyloft.example/";
   ApplySkin();

@@ -4,7 +4,9 @@
 namespace skyloft {
 
 struct PersonalAlertState {
-  int PersonalAlertActive = 0;  // 1 while a personal alert is on display
+  int PersonalAlertActive = 0;       // 1 while a personal alert is on display
+  double PersonalAlertElapsed = 0;   // seconds that it has been
+  double PersonalAlertDuration = 0;  // seconds that it is to stay
 };
 extern PersonalAlertState PersonalAlertsState;
 

@@ -7,8 +7,11 @@
 #include "alerts/personal_alerts.h"
 #include "base/guard.h"
 #include "base/values.h"
+#include "browser/player.h"
 #include "browser/selection.h"
 #include "core/chrome.h"
+#include "core/refresh.h"
+#include "core/tray.h"
 #include "feed/addresses.h"
 #include "feed/catalogues.h"
 #include "feed/forecast.h"
@@ -138,6 +141,10 @@ void ConnectForms() {
   ConnectTransport();
   ConnectHosts();
   ConnectSelection();
+  ConnectPlayer();
+  ConnectRefresh();
+  ConnectTicker();
+  ConnectTray();
   ConnectWizard();
   ConnectMenu();
   SystemFontForm.OKButton.Click = EndProcess;

@@ -1,6 +1,7 @@
 // The program's start, as one list of steps.
 #pragma once
 
+#include <string>
 #include <vector>
 
 namespace skyloft {
@@ -8,7 +9,7 @@ namespace skyloft {
 // Whether start-up is over: "True" then, and "" before. The product browser uses the same text for its map
 // view.
 struct StartState {
-  const char* LocalView = "";
+  std::string LocalView;
   bool Loaded = false;  // whether the stores have been read, so that saving loses nothing
   int WorkAreaTopSaved = 0, WorkAreaHeightSaved = 0;  // twips, when the ticker was placed
 };

@@ -4,38 +4,34 @@
 #include "feed/addresses.h"
 #include "feed/observations.h"
 #include "forms/main_form.h"
+#include "pages/fragments.h"
 #include "settings/location_profiles.h"
 #include "settings/settings.h"
 
 namespace skyloft {
 namespace {
 
-// Fragments follow each other directly; their leading blanks belong to them.
-std::string Join(std::initializer_list<std::string> fragments) {
-  std::string text;
-  for (const std::string& fragment : fragments) text += fragment;
-  return text;
-}
-
 // The head of the small pages, up to the table's first row.
-std::string PageHead(const std::string& title) {
+void AppendHead(std::string& page, const std::string& title) {
   const std::string rule = "{font-family: Tahoma;font-size: 11px;}";
-  return Join({
-      "<html>",
-      "<head>",
-      "<meta http-equiv='Content-Type' content='text/html; charset=windows-1252'>",
-      "<title>" + title + "</title>",
-      "<style type='text/css'>",
-      "body { overflow:hidden; }",
-      "TD" + rule,
-      "P" + rule,
-      "</style>",
-      std::string("<link rel='stylesheet' type='text/css' href='") + kStyleSheet + "'>",
-      "</head>",
-      "<body topmargin='0' leftmargin='0' bgcolor='#000000'>",
-      "<div align='left'>",
-      "  <table border='0' width='150' cellspacing='0' cellpadding='2'>",
-  });
+  Append(page, {
+                   "<html>",
+                   "<head>",
+                   "<meta http-equiv='Content-Type' content='text/html; charset=windows-1252'>",
+                   "<title>" + title + "</title>",
+                   "<style type='text/css'>",
+                   "body { overflow:hidden; }",
+                   "TD" + rule,
+                   "P" + rule,
+                   "</style>",
+                   "<link rel='stylesheet' type='text/css' href='",
+                   kStyleSheet,
+                   "'>",
+                   "</head>",
+                   "<body topmargin='0' leftmargin='0' bgcolor='#000000'>",
+                   "<div align='left'>",
+                   "  <table border='0' width='150' cellspacing='0' cellpadding='2'>",
+               });
 }
 
 // What the two small pages differ in, and their values.
@@ -48,8 +44,10 @@ struct SmallPage {
 };
 
 std::string BuildSmallPage(const SmallPage& page) {
-  return PageHead(page.title) +
-         Join({
+  std::string text;
+  AppendHead(text, page.title);
+  Append(text,
+         {
              "    <tr>",
              "          <TD vAlign=center align=middle bgColor=#ffffcc><B>" + page.kind,
              "            Conditions</B></BR>" + page.under_heading + "</font></TD>",
@@ -72,6 +70,7 @@ std::string BuildSmallPage(const SmallPage& page) {
              "</body>",
              "</html>",
          });
+  return text;
 }
 
 }  // namespace

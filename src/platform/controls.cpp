@@ -191,10 +191,23 @@ void ImageView::Describe(PropertyList& out) const {
 void HtmlDisplay::Describe(PropertyList& out) const {
   Control::Describe(out);
   out.emplace_back("document", Document.Get());
+  out.emplace_back("address", address_);
 }
 
 void HtmlDisplay::Press() {
   if (Enabled) Fire(Click);
+}
+
+void HtmlDisplay::Navigate(const std::string& address) {
+  Document = "";
+  address_ = address;
+  ++visits_;
+  MarkDirty();
+}
+
+void ProgressBar::SetPosition(int max, int value) {
+  Max = max;
+  Value = std::clamp(value, 0, std::max(max, 0));
 }
 
 void ProgressBar::Describe(PropertyList& out) const {

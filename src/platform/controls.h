@@ -288,16 +288,25 @@ class ImageView : public Picture {
   MouseEvent MouseDown;
 };
 
-// An HTML page, given as a complete document.
+// An HTML page: given as a complete document, or found at an address.
 class HtmlDisplay : public Control {
  public:
   using Control::Control;
   std::string_view Type() const override { return "HtmlView"; }
   void Describe(PropertyList& out) const override;
   void Accept(ControlVisitor& visitor) override;
-  void Press();  // act
-  Property<std::string> Document{this};
+  void Press();                          // act
+  Property<std::string> Document{this};  // shown unless it is ""
+  // Shows the page at an address instead: a file by the program's own path, or http. It is read anew each
+  // time; what cannot be read shows nothing.
+  void Navigate(const std::string& address);
+  const std::string& Address() const { return address_; }
+  int Visits() const { return visits_; }  // how often Navigate was called
   Event Click;
+
+ private:
+  std::string address_;
+  int visits_ = 0;
 };
 
 class ProgressBar : public Control {
@@ -307,7 +316,8 @@ class ProgressBar : public Control {
   void Describe(PropertyList& out) const override;
   void Accept(ControlVisitor& visitor) override;
   Property<int> Min{this, 0}, Max{this, 100}, Value{this, 0};
-  Property<int> Color{this, 0xff0000};  // blue, green, red from the highest byte down
+  void SetPosition(int max, int value);  // a value outside 0 to max is brought to the nearer end
+  Property<int> Color{this, 0xff0000};   // blue, green, red from the highest byte down
 };
 
 // A part of a form that shows and hides as one.

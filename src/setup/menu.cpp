@@ -9,14 +9,22 @@
 #include "settings/registry.h"
 
 namespace skyloft {
+namespace {
 
-void OpenMainMenu() {
+// The menu of the main window and of the tray: with the entries that show what is hidden.
+void OpenMenu(bool main_hidden) {
   const bool ticker_hidden = !TickerForm.Visible;
-  MenuForm.ShowSkyloft.Visible = false;
+  MenuForm.ShowSkyloft.Visible = main_hidden;
   MenuForm.ShowTicker.Visible = ticker_hidden;
-  MenuForm.Line3.Visible = ticker_hidden;
+  MenuForm.Line3.Visible = main_hidden || ticker_hidden;
   PopUpMenu(MainForm, MenuForm.Options);
 }
+
+}  // namespace
+
+void OpenMainMenu() { OpenMenu(false); }
+
+void OpenTrayMenu() { OpenMenu(!MainForm.Visible); }
 
 void ExitSkyloft() {
   SaveSystem();
@@ -24,6 +32,9 @@ void ExitSkyloft() {
   EndProcess();
 }
 
-void ConnectMenu() { MenuForm.ExitSkyloft.Click = ExitSkyloft; }
+void ConnectMenu() {
+  MenuForm.ShowSkyloft.Click = [] { MainForm.Visible = true; };
+  MenuForm.ExitSkyloft.Click = ExitSkyloft;
+}
 
 }  // namespace skyloft

@@ -4,5 +4,6 @@ namespace skyloft {
 
 void LoadMessages() {}
 void RotateSponsors() {}
+void FindAlertMessage() {}
 
 }  // namespace skyloft

@@ -9,4 +9,7 @@ void LoadMessages();
 // The rotation step of the banners. Does nothing yet.
 void RotateSponsors();
 
+// Shows the message that fits the present bulletin alert. Does nothing yet.
+void FindAlertMessage();
+
 }  // namespace skyloft

@@ -8,7 +8,10 @@ struct TickerState {
 };
 extern TickerState TickerRotation;
 
-// One step of the rotation. Does nothing yet.
+// One step of the rotation. So far it only lets the bar's presses through to the form.
 void TickerDisplay();
+
+// Attaches the bar's left press, which shows the main window.
+void ConnectTicker();
 
 }  // namespace skyloft

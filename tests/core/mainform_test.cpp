@@ -61,13 +61,17 @@ TEST_F(StartUp, FiveStoredLocationsAreShownWithTheirConditions) {
   EXPECT_NE(MainForm.WeatherConditionsBanner.Document.Get().find("Temperature</B>: 64 F"), std::string::npos);
 }
 
-TEST_F(StartUp, OneMetaQueryAndOneCurrentQueryAreSent) {
+TEST_F(StartUp, EachQueryIsSentOnceForAllLocationsInTheOrderOfTheSteps) {
   SetUpStored(2);
   LoadMainForm();
-  EXPECT_EQ(Doubles.requests,
-            (std::vector<std::string>{"www.skyloft.example/skyloft/config/hosts.xml",
-                                      "server/forecast.asp?pc=10000&pc=10001&t=xml&d=meta",
-                                      "server/forecast.asp?pc=10000&pc=10001&t=xml&d=current"}));
+  // The hourly query has no reply here, so that the extended one is not sent.
+  EXPECT_EQ(Doubles.requests, (std::vector<std::string>{
+                                  "www.skyloft.example/skyloft/config/hosts.xml",
+                                  "server/forecast.asp?pc=10000&pc=10001&t=xml&d=meta", "products.12z.sys.4",
+                                  "sectors.12z.sys", "server/forecast.asp?pc=10000&pc=10001&t=xml&d=current",
+                                  "server/forecast.asp?pc=10000&pc=10001"
+                                  "&st=1%2F1%2F2000+0%3A00%3A00+AM&et=12%2F31%2F2100+12%3A00%3A00+AM"
+                                  "&t=xml"}));
 }
 
 TEST_F(StartUp, WithoutALocationTheWizardRunsAndTheSplashIsNotUsed) {
@@ -97,8 +101,8 @@ TEST_F(StartUp, TheSplashTellsTheStepThatRunsAndTheTimersAreOff) {
     EXPECT_FALSE(MainForm.Clock.Enabled);
   };
   LoadMainForm();
-  EXPECT_EQ(told,
-            (std::vector<std::string>{"connecting to Skyloft Server 0", "receiving current conditions 2"}));
+  EXPECT_EQ(told, (std::vector<std::string>{"connecting to Skyloft Server 0",
+                                            "receiving current conditions 2", "receiving forecasts 3"}));
   EXPECT_FALSE(InitializingForm.Visible);
   EXPECT_EQ(InitializingForm.ProgressBar.Value, 0);
   EXPECT_EQ(InitializingForm.SoftwareStatus.Caption.Get(), "checking personal forecast alerts");

@@ -2,6 +2,7 @@
 #include "platform/doubles.h"
 #include "platform/process.h"
 #include "platform/shell.h"
+#include "platform/tray.h"
 
 namespace skyloft {
 
@@ -27,6 +28,7 @@ void StartUpdate(const std::string& path) { Doubles.started_updates.push_back(pa
 int DotsPerInch() { return Doubles.dots_per_inch; }
 ScreenSize GetScreenSize() { return Doubles.screen; }
 WorkArea GetWorkArea() { return Doubles.work_area; }
+SystemVersion GetSystemVersion() { return Doubles.system_version; }
 
 std::string ApplicationPath() { return Doubles.application_path; }
 void EndProcess() { throw ProcessEnded(); }

@@ -1,15 +1,28 @@
 #include "base/guard.h"
 #include "platform/doubles.h"
 #include "platform/pictures.h"
+#include "platform/tray.h"
 
 namespace skyloft {
+namespace {
 
-void LoadPicture(Picture& control, const std::string& path) {
+void Load(const std::string& path) {
   if (Doubles.missing_pictures.contains(path) || Doubles.picture_failure.Due()) {
     throw RuntimeError("no picture " + path);
   }
   Doubles.loaded_pictures.push_back(path);
+}
+
+}  // namespace
+
+void LoadPicture(Picture& control, const std::string& path) {
+  Load(path);
   control.SetPicture(path);
+}
+
+void LoadIcon(TrayIcon& icon, const std::string& path) {
+  Load(path);
+  icon.Icon = path;
 }
 
 }  // namespace skyloft

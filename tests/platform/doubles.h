@@ -17,6 +17,7 @@
 #include "platform/dialogs.h"
 #include "platform/registry_store.h"
 #include "platform/screen.h"
+#include "platform/tray.h"
 #include "platform/window.h"
 
 namespace skyloft {
@@ -75,6 +76,7 @@ struct DoublesState {
   int dots_per_inch = 96;
   ScreenSize screen = {1280 * 15, 1024 * 15};
   WorkArea work_area = {0, 1280 * 15, 1000 * 15};
+  SystemVersion system_version = {2, 6, 0};
   std::string application_path = "C:\\somewhere\\else\\skyloft.exe";
 
   // The reply to every address that holds `part`.

@@ -123,7 +123,7 @@ void TakeSnapshotAndEnd() {
 // For a second start. A program that is still starting comes up by itself, and one that could not start has
 // nothing else to show.
 void ComeForward() {
-  if (Start.Loaded && *Start.LocalView) Raise(ShowAgain);
+  if (Start.Loaded && !Start.LocalView.empty()) Raise(ShowAgain);
 }
 
 // Everything after the event loop has begun.

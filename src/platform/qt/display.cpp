@@ -4,6 +4,7 @@
 
 #include "platform/qt/form_window.h"
 #include "platform/qt/http_qt.h"
+#include "platform/qt/tray_qt.h"
 
 namespace skyloft {
 
@@ -21,6 +22,8 @@ void Display::ShowDirty() {
   for (Control* control : TakeDirtyControls()) {
     if (auto* timer = dynamic_cast<Timer*>(control)) {
       ShowTimer(*timer);
+    } else if (auto* icon = dynamic_cast<TrayIcon*>(control)) {
+      ShowTrayIcon(*icon);
     } else if (auto* form = dynamic_cast<Form*>(control)) {
       if (form->Visible || MadeWindowOf(*form)) WindowOf(*form).ShowForm();
     } else if (FormWindow* window = MadeWindowOf(*control->Owner())) {

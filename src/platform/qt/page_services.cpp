@@ -2,7 +2,9 @@
 
 #include <QTimer>
 
+#include "base/guard.h"
 #include "feed/addresses.h"
+#include "platform/files.h"
 #include "platform/qt/drive.h"
 #include "platform/qt/http_qt.h"
 #include "platform/qt/text_qt.h"
@@ -28,6 +30,16 @@ void FetchForPage(const QString& url, const std::function<void(QByteArray)>& don
 }
 
 }  // namespace
+
+void FetchPage(const std::string& address, const std::function<void(std::string)>& done) {
+  if (address.find("://") != std::string::npos) {
+    FetchLater(address, done);
+    return;
+  }
+  std::string document;
+  Guarded([&] { document = ReadFile(address); });
+  done(document);
+}
 
 HtmlServices PageServices() {
   return {.local_path = LocalFile,

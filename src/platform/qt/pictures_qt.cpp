@@ -20,6 +20,11 @@ std::map<std::string, QImage>& Loaded() {
   return pictures;
 }
 
+bool IsSane(QSize size) {
+  return size.isValid() && size.width() <= kLargestSide && size.height() <= kLargestSide &&
+         qint64{size.width()} * size.height() <= kLargestArea;
+}
+
 }  // namespace
 
 QImage LoadedPicture(const std::string& path) {
@@ -28,17 +33,24 @@ QImage LoadedPicture(const std::string& path) {
 }
 
 QImage ReadPicture(const std::string& path) {
-  QImage image;
+  const QList<QImage> images = ReadPictures(path, 1);
+  return images.isEmpty() ? QImage() : images.first();
+}
+
+QList<QImage> ReadPictures(const std::string& path, int most) {
+  QList<QImage> images;
   Guarded([&] {
     QByteArray bytes = QByteArray::fromStdString(ReadFile(path));
     QBuffer buffer(&bytes);
     QImageReader reader(&buffer);
-    const QSize size = reader.size();
-    const bool sane = size.isValid() && size.width() <= kLargestSide && size.height() <= kLargestSide &&
-                      qint64{size.width()} * size.height() <= kLargestArea;
-    if (sane) image = reader.read();
+    while (images.size() < most && IsSane(reader.size())) {
+      const QImage image = reader.read();
+      if (image.isNull()) break;
+      images << image;
+      if (!reader.jumpToNextImage()) break;
+    }
   });
-  return image;
+  return images;
 }
 
 void LoadPicture(Picture& control, const std::string& path) {

@@ -4,6 +4,7 @@
 #include <string>
 
 #include <QImage>
+#include <QList>
 
 namespace skyloft {
 
@@ -12,5 +13,9 @@ QImage LoadedPicture(const std::string& path);
 
 // Reads a picture file; a null image when it is missing, no picture, or larger than a screenful of screens.
 QImage ReadPicture(const std::string& path);
+
+// The pictures of a file that holds several, such as the sizes of an icon: as many as can be read, at most
+// `most`.
+QList<QImage> ReadPictures(const std::string& path, int most);
 
 }  // namespace skyloft

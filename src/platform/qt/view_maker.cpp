@@ -107,11 +107,18 @@ class ViewMaker : public ControlVisitor {
     auto* page = new HtmlView(PageServices(), ParentOf(model));
     page->clicked = [&model] { Raise([&] { model.Press(); }); };
     window_.pages_.push_back(page);
-    auto shown = std::make_shared<std::string>();
+    auto shown = std::make_shared<std::pair<std::string, int>>("", 0);  // document and visit
     Keep(model, page, [&model, page, shown] {
-      if (*shown == model.Document.Get()) return;
-      *shown = model.Document;
-      page->SetDocument(*shown);
+      const std::pair<std::string, int> wanted(model.Document.Get(), model.Visits());
+      if (*shown == wanted) return;
+      *shown = wanted;
+      if (!wanted.first.empty() || model.Address().empty()) {
+        page->SetDocument(wanted.first);
+      } else {
+        FetchPage(model.Address(), [page, shown, wanted](const std::string& document) {
+          if (*shown == wanted) page->SetDocument(document);
+        });
+      }
     });
   }
 

@@ -1,0 +1,207 @@
+#include "core/refresh.h"
+
+#include "alerts/bulletins.h"
+#include "alerts/personal_alerts.h"
+#include "base/guard.h"
+#include "base/values.h"
+#include "browser/images.h"
+#include "browser/radar_frames.h"
+#include "browser/selection.h"
+#include "core/chrome.h"
+#include "core/mainform.h"
+#include "feed/catalogues.h"
+#include "feed/forecast.h"
+#include "feed/hosts.h"
+#include "feed/observations.h"
+#include "feed/radar.h"
+#include "feed/xml_readers.h"
+#include "forms/main_form.h"
+#include "forms/system_options_form.h"
+#include "forms/ticker_form.h"
+#include "pages/conditions.h"
+#include "platform/clock.h"
+#include "platform/files.h"
+#include "platform/screen.h"
+#include "settings/location_profiles.h"
+#include "settings/settings.h"
+#include "ticker/messages.h"
+#include "ticker/ticker.h"
+#include "weather/almanac.h"
+#include "weather/periods.h"
+#include "weather/time.h"
+
+namespace skyloft {
+
+RefreshState Refresh;
+
+namespace {
+
+constexpr std::int64_t kOldestMinutes = 720;
+
+double TickSeconds() { return MainForm.UpdateTimer.Interval / 1000.0; }
+
+double SecondsOf(const ListControl& minutes) { return LenientNumber(minutes.Text()) * 60; }
+
+// Advances a counter by a tick; when it has reached its interval, clears it and tells so.
+bool Due(double& counter, double interval) {
+  counter += TickSeconds();
+  if (counter < interval) return false;
+  counter = 0;
+  return true;
+}
+
+void HideUnwantedTicker() {
+  if (!SystemOptionsForm.ShowTicker.Checked) TickerForm.Visible = false;
+}
+
+// A button that waits for a click when there is something to replay.
+void ShowWaiting(const ImageButtonState& state, const char* lit, const std::string& alert) {
+  const bool waiting = !alert.empty();
+  state(BooleanText(waiting), "", IconPath(waiting ? lit : state.disabled));
+}
+
+void EndBulletin() {
+  Bulletins.NWSAlertActive = 0;
+  Bulletins.NWSAlertElapsed = 0;
+  Bulletins.NWSAlertDuration = 0;
+  HideUnwantedTicker();
+  ShowWaiting(TornadoButtonState, "tornados.gif", Bulletins.TornadoAlertText);
+  ShowWaiting(ThunderstormButtonState, "tstorms.gif", Bulletins.ThunderstormAlertText);
+  ShowWaiting(FloodButtonState, "floods.gif", Bulletins.FloodAlertText);
+  FindAlertMessage();
+}
+
+// No check takes place while a bulletin is on display.
+void RefreshBulletins() {
+  Bulletins.NWSCheckElapsed += TickSeconds();
+  if (Bulletins.NWSAlertActive == 0) {
+    if (Bulletins.NWSCheckElapsed < SecondsOf(SystemOptionsForm.NWSIndexMax)) return;
+    Bulletins.NWSCheckElapsed = 0;
+    NWSAlerts();
+  } else if (Bulletins.NWSAlertActive == 1) {
+    Bulletins.NWSAlertElapsed += TickSeconds();
+    if (Bulletins.NWSAlertElapsed >= Bulletins.NWSAlertDuration) EndBulletin();
+  }
+}
+
+void RefreshPersonalAlert() {
+  PersonalAlertState& alert = PersonalAlertsState;
+  if (alert.PersonalAlertActive != 1) return;
+  alert.PersonalAlertElapsed += TickSeconds();
+  if (alert.PersonalAlertElapsed < alert.PersonalAlertDuration) return;
+  alert.PersonalAlertActive = 0;
+  alert.PersonalAlertElapsed = 0;
+  alert.PersonalAlertDuration = 0;
+  HideUnwantedTicker();
+  PersonalButtonState("True", "", IconPath("personals.gif"));
+}
+
+void RefreshMessages() {
+  if (Due(Refresh.MessageTimer, LenientNumber(HostTable.messageinterval))) LoadMessages();
+  RotateSponsors();
+}
+
+void RefreshRadar() {
+  if (!Due(Refresh.NexradTimer, SecondsOf(SystemOptionsForm.NexradIndexMax))) return;
+  GetNexradData(0);
+  const std::string site = LowerCase(LocationProfile[ProfileRow::NEXRADLocation][SelectedLocation()]);
+  ThumbnailDisplay("nexr", site);
+  if (MainForm.CategorySelection.Text() != "NEXRAD Radar") return;
+  NexradLoad("nexr", site);
+  Browser.HourIndexMin = 0;
+  Periods.HourIndexMax = MainForm.TimeSelection.Count() - 1;
+  ShowEntryTitle();
+}
+
+void RefreshConditions() {
+  if (!Due(Refresh.CurrentTimer, SecondsOf(SystemOptionsForm.CurrentConditionsIndexMax))) return;
+  GetMetaData();
+  GetCurrentData();
+  CurrentConditions();
+  SetTickerHourIndex();
+  Browser.SelectedProduct = MiddleText(MainForm.ProductSelection.Text(), 5);
+  if (Browser.SelectedProduct == "Hourly Planner") SelectProduct();
+}
+
+void RefreshForecast() {
+  double counter = LenientNumber(Refresh.ForecastTimer);
+  const bool due = Due(counter, SecondsOf(SystemOptionsForm.ForecastIndexMax));
+  Refresh.ForecastTimer = NumberText(counter);
+  if (!due) return;
+  GetMetaData();
+  if (Settings.ModelLocal == Settings.ModelServer) return;
+  CheckHosts(1);
+  GetSectorData();
+  GetProductData();
+  GetForecastData(0);
+  GetPeriod(0);
+  GetAlmanac();
+  PersonalAlerts();
+  if (!MainForm.ImageForwardTimer.Enabled) GetAvailableCategories();
+}
+
+void HideChannel() {
+  Refresh.ChannelCounter += 1;
+  if (Refresh.ChannelCounter < 3) return;
+  Refresh.ChannelCounter = 3;
+  MainForm.Channel.Visible = false;
+}
+
+void StepTicker() {
+  const bool alert = Bulletins.NWSAlertActive == 1 || PersonalAlertsState.PersonalAlertActive == 1;
+  if (TickerForm.Visible && !alert) TickerDisplay();
+}
+
+void TellLocationTime() {
+  const int slot = SelectedLocation();
+  MainForm.TimeValue.Caption =
+      "Local Time: " + Format(LocationTime(slot), "h:nn:ss AM/PM") + " " + LocationZone(slot);
+}
+
+void FollowWorkArea() {
+  const WorkArea area = GetWorkArea();
+  if (area.top != Start.WorkAreaTopSaved || area.height != Start.WorkAreaHeightSaved) PlaceTicker();
+}
+
+}  // namespace
+
+void TickClock() {
+  Guarded([] {
+    HideChannel();
+    StepTicker();
+    TellLocationTime();
+    FollowWorkArea();
+  });
+}
+
+void TickRefresh() {
+  Guarded([] {
+    CleanTempFolder();
+    RefreshBulletins();
+    RefreshPersonalAlert();
+    RefreshMessages();
+    RefreshRadar();
+    RefreshConditions();
+    RefreshForecast();
+  });
+}
+
+void CleanTempFolder() {
+  Guarded([] {
+    FileList& files = MainForm.FileList;
+    files.Path = Settings.InstallPath + "\\temp\\";
+    files.Files = ListFiles(files.Path);
+    const Date now = Now();
+    for (const std::string& name : files.Files) {
+      const std::string path = files.Path + name;
+      if (DateDiff(DateUnit::Minutes, FileTime(path), now) > kOldestMinutes) DeleteFile(path);
+    }
+  });
+}
+
+void ConnectRefresh() {
+  MainForm.Clock.Tick = TickClock;
+  MainForm.UpdateTimer.Tick = TickRefresh;
+}
+
+}  // namespace skyloft
