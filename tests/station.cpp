@@ -73,6 +73,46 @@ void Station::SetUpLocations(int count) {
   Settings.LocationIndexMax = std::to_string(count - 1);
 }
 
+void Station::SetUpForecast(const std::string& first_gmt, int zone) {
+  const Date first = ReadDate(first_gmt);
+  const int start = PartsOf(first).hour;
+  const bool late = start == 7 || start == 19;
+  Settings.GMTStartTime = std::to_string(start);
+  Settings.StartHourIndex = late ? "6" : "0";
+  Settings.StopHourIndex = late ? "65" : "59";
+  const auto stamp = [](Date date) { return Format(date, "mmm dd yyyy hh:mmAM/PM"); };
+  for (int location = 0; location <= LastLocation(); ++location) {
+    for (int h = 0; h < 66; ++h) {
+      const Date gmt = DateAdd(DateUnit::Hours, h, first);
+      ForecastHour[location][h] = {.Ut = stamp(gmt),
+                                   .Lt = stamp(DateAdd(DateUnit::Hours, zone, gmt)),
+                                   .Desc = "partly cloudy",
+                                   .Ic = "C:\\icons\\hour.gif",
+                                   .Tf = "40",
+                                   .Df = "30",
+                                   .Rh = "60",
+                                   .Wd = " NE",
+                                   .Ws = "5",
+                                   .At = "38",
+                                   .Rn = "0",
+                                   .Sn = "0"};
+    }
+    for (int d = 0; d < kForecastDays; ++d) {
+      const Date gmt = DateAdd(DateUnit::Hours, 72 - start % 12 + 12 * d, first);
+      ForecastDay[location][d] = {.Ut = stamp(gmt),
+                                  .Lt = "",
+                                  .Desc = "cloudy",
+                                  .Ic = "C:\\icons\\day.gif",
+                                  .Th = "45",
+                                  .Tl = "35",
+                                  .Rn = "0",
+                                  .Sn = "0",
+                                  .Wd = "  S",
+                                  .Ws = "9"};
+    }
+  }
+}
+
 std::string Reply(const std::string& elements) { return "<r>" + elements + "</r>"; }
 
 std::string Element(const std::string& tag, const std::string& text) {

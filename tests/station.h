@@ -17,6 +17,11 @@ class Station : public ::testing::Test {
   // `count` locations with the zip codes 10000, 10001, ... and the titles "Town 0", "Town 1", ...; the first
   // one selected.
   static void SetUpLocations(int count);
+
+  // The same forecast for all of them: 66 hours from `first_gmt`, and 25 half days that end at 00 and 12 GMT,
+  // the first about three days later; at `zone` hours from GMT. All is calm and "partly cloudy": Tf "40", At
+  // "38", Df "30", Rh "60", Wd " NE", Ws "5"; Th "45", Tl "35", Wd "  S", Ws "9"; no rain, no snow.
+  static void SetUpForecast(const std::string& first_gmt, int zone);
 };
 
 // "<r>" and the given elements and "</r>".
