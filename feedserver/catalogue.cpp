@@ -13,22 +13,19 @@ namespace {
 constexpr std::array<std::string_view, 4> kCategories = {"Planners", "Forecast Maps", "NEXRAD Radar",
                                                          "Historical"};
 
+// Those there are have pages and pictures of their own, of which the catalogue knows only the names: one
+// frame that is named and listed by code 0.
 struct Product {
-  std::string_view id, name;
+  std::string_view name;
   int category;
-  std::string_view code;
-  int period;  // minutes between two pictures, 0 for what has none
-  std::string_view file, type;
 };
-
-constexpr std::array<Product, 6> kProducts = {{
-    {"1", "Hourly Planner", 0, "hourly", 0, "", "planner"},
-    {"2", "Weekly Planner", 0, "weekly", 0, "", "planner"},
-    {"3", "Reflectivity", 2, "N0R", 6, "N0R", "radar"},
-    {"4", "1-Hour Precipitation", 2, "N1P", 6, "N1P", "radar"},
-    {"5", "Total Precipitation", 2, "NTP", 6, "NTP", "radar"},
-    {"6", "Historical Conditions", 3, "history", 0, "", "history"},
-}};
+constexpr std::array<Product, 6> kProducts = {{{"Hourly Planner", 0},
+                                               {"Weekly Planner", 0},
+                                               {"Reflectivity", 2},
+                                               {"1-Hour Precipitation", 2},
+                                               {"Total Precipitation", 2},
+                                               {"Historical Conditions", 3}}};
+constexpr std::string_view kCode = "0", kFrames = "1", kType = "gif";
 
 constexpr int kMapWidth = 640, kMapHeight = 480;  // pixels
 
@@ -44,23 +41,26 @@ struct Sector {
 // 4 to 3.
 constexpr Sector kNational{"200", -2400000, 2800000, -3100000, 800000};
 
+// The run whose frames go beyond hour 66: of the shorter ones, the longer one before.
+std::string_view ExtendedRun(std::string_view run_hour) { return run_hour < "12" ? "00z" : "12z"; }
+
 }  // namespace
 
 std::string ProductsXml(std::string_view run_hour) {
   XmlDocument xml("products");
   xml.Add("model", std::string(run_hour) + "z");
-  xml.Add("modelx", std::string(run_hour) + "z");
+  xml.Add("modelx", ExtendedRun(run_hour));
   xml.Add("height", NumberText(kMapHeight));
   xml.Add("width", NumberText(kMapWidth));
   for (const std::string_view category : kCategories) xml.Add("menu", category);
   for (const Product& product : kProducts) {
-    xml.Add("id", product.id);
+    xml.Add("id", kNational.id.substr(0, 1));
     xml.Add("product", product.name);
     xml.Add("category", NumberText(product.category));
-    xml.Add("code", product.code);
-    xml.Add("period", NumberText(product.period));
-    xml.Add("file", product.file);
-    xml.Add("type", product.type);
+    xml.Add("code", kCode);
+    xml.Add("period", kFrames);
+    xml.Add("file", "");
+    xml.Add("type", kType);
   }
   return std::move(xml).Finish();
 }

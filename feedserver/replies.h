@@ -15,7 +15,7 @@ std::optional<std::string> ForecastXml(const Query& query, Date now, std::uint64
 // Everything about one place; a document without tags when the place is unknown.
 std::string LocationXml(const Query& query, Date now);
 std::string HostsXml(const World& world);
-// The map products of a model run ("00" to "18"), and the edges of their maps.
+// The products of the catalogue of a model run ("00" to "18"), and the edges of their maps.
 std::string ProductsXml(std::string_view run_hour);
 std::string SectorsXml();
 

@@ -89,7 +89,7 @@ TEST(Answer, CataloguesAreThereForEveryModelRun) {
   for (const std::string hour : {"00", "06", "12", "18"}) {
     const Elements products = Ask("/products." + hour + "z.sys.4");
     EXPECT_EQ(First(products, "model"), hour + "z");
-    EXPECT_EQ(First(products, "modelx"), hour + "z");
+    EXPECT_EQ(First(products, "modelx"), hour < "12" ? "00z" : "12z");
     EXPECT_EQ(Values(products, "menu"),
               (std::vector<std::string>{"Planners", "Forecast Maps", "NEXRAD Radar", "Historical"}));
     const std::vector<std::string> names = Values(products, "product");
@@ -102,6 +102,19 @@ TEST(Answer, CataloguesAreThereForEveryModelRun) {
     }
     EXPECT_EQ(First(Ask("/sectors." + hour + "z.sys"), "sector"), "200");
   }
+}
+
+TEST(Answer, ProductsTellTheirMapsAndPicturesInFormsThatAreRead) {
+  const Elements products = Ask("/products.06z.sys.4");
+  const std::string family = First(Ask("/sectors.06z.sys"), "sector").substr(0, 1);
+  for (const std::string& id : Values(products, "id")) EXPECT_EQ(id, family);
+  for (const std::string& code : Values(products, "code")) {
+    EXPECT_TRUE(code == "url" || (StrictNumber(code) >= 0 && StrictNumber(code) <= 11)) << code;
+  }
+  for (const std::string& frames : Values(products, "period")) EXPECT_GE(StrictNumber(frames), 1);
+  for (const std::string& type : Values(products, "type")) EXPECT_EQ(type, "gif");
+  const auto menus = static_cast<double>(Values(products, "menu").size());
+  for (const std::string& category : Values(products, "category")) EXPECT_LT(StrictNumber(category), menus);
 }
 
 struct MapPoint {
