@@ -1,7 +1,6 @@
 // The forecast feed: meta data, current and historical conditions, hourly and extended forecasts.
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <vector>
 
 #include "base/values.h"
@@ -48,10 +47,8 @@ Moment ForecastAt(const Spot& spot, Date gmt, std::uint64_t seed) {
 
 // The newest observation: one every 20 minutes, in every town at minutes of its own.
 Date ObservationTime(const Spot& spot, Date now) {
-  const auto phase =
-      static_cast<std::int64_t>(std::abs(spot.point.latitude * 7000 + spot.point.longitude * 3000)) % 20;
-  const Date shifted = FloorTo({now.seconds - phase * kMinute}, kObservationSeconds);
-  return {shifted.seconds + phase * kMinute};
+  const std::int64_t phase = spot.place->minute * kMinute;
+  return {FloorTo({now.seconds - phase}, kObservationSeconds).seconds + phase};
 }
 
 // The newest run of the model that is done.

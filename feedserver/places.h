@@ -21,6 +21,7 @@ struct Place {
   std::string_view office;   // of the National Weather Service
   RadarSite radar;           // the nearest of the NEXRAD network
   std::string_view station;  // where the weather is observed
+  int minute;                // of the observations past the full hour, past 20 and past 40
 };
 
 // Null when there is no such place. City and state are compared without case and outer blanks.

@@ -4,35 +4,11 @@
 #include <cmath>
 #include <set>
 
-#include "base/values.h"
-#include "feedserver/answer.h"
+#include "ask.h"
 #include "feedserver/places.h"
-#include "scan.h"
 
 namespace skyloft::feed {
 namespace {
-
-const Date kNow = MakeDate(2003, 3, 7, 20, 5, 0);
-constexpr char kWideRange[] = "st=1%2F1%2F2000&et=1%2F1%2F2099&t=xml";
-
-Elements Ask(const std::string& query, Date now = kNow, std::uint64_t seed = 1) {
-  const Reply reply = Answer({"/forecast.asp", query, now}, {.seed = seed});
-  EXPECT_EQ(reply.status, 200) << query;
-  return Scan(reply.body);
-}
-
-// A stamp of the feed; its form is checked letter by letter.
-Date StampOf(const std::string& text) {
-  const Date date = ReadDate(text);
-  EXPECT_EQ(Format(date, "mmm Dd yyyy hh:mmAM/PM"), text);
-  return date;
-}
-
-std::vector<double> Numbers(const Elements& elements, const char* tag) {
-  std::vector<double> numbers;
-  for (const auto& value : Values(elements, tag)) numbers.push_back(StrictNumber(value));
-  return numbers;
-}
 
 std::multiset<std::string> Tags(const Elements& elements) {
   std::multiset<std::string> tags;
@@ -169,26 +145,6 @@ TEST(Hourly, HasSixtySixHoursFromTheRunOn) {
     for (std::size_t i = 0; i < stamps.size(); ++i) {
       const auto hours = static_cast<std::int64_t>(i % 66);
       EXPECT_EQ(StampOf(stamps[i]), DateAdd(DateUnit::Hours, hours, ReadDate(c.first)));
-    }
-  }
-}
-
-TEST(Hourly, DayPhrasesAreThoseOfTheGmtDay) {
-  const Elements hourly = Ask(std::string(kWideRange) + "&pc=66044&pc=33131&pc=99501&pc=98101");
-  const auto stamps = Values(hourly, "Ut"), icons = Values(hourly, "Ic");
-  for (std::size_t i = 0; i < stamps.size(); ++i) {
-    const int hour = PartsOf(StampOf(stamps[i])).hour;
-    EXPECT_EQ(icons[i].starts_with("sn"), hour >= 1 && hour <= 12) << stamps[i] << ' ' << icons[i];
-  }
-}
-
-TEST(Hourly, NorthIs360AndOnlyACalmIs0) {
-  for (std::uint64_t seed = 1; seed < 20; ++seed) {
-    const Elements hourly = Ask(std::string(kWideRange) + "&pc=66044&pc=99501&pc=96813", kNow, seed);
-    const auto directions = Numbers(hourly, "Wd"), speeds = Numbers(hourly, "Ws");
-    for (std::size_t i = 0; i < directions.size(); ++i) {
-      EXPECT_EQ(directions[i] == 0, speeds[i] == 0);
-      EXPECT_LE(directions[i], 360);
     }
   }
 }

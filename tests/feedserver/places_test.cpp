@@ -2,8 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 namespace skyloft::feed {
 namespace {
+
+constexpr const char* kPostalCodes[] = {"66044", "33131", "80202", "98101", "04101", "85003",
+                                        "99501", "96813", "00901", "60601", "10001", "90012"};
 
 TEST(Places, AreFoundByPostalCode) {
   const Place* const place = FindPlace("66044");
@@ -30,8 +35,7 @@ TEST(Places, NearestIsByDistanceOnTheSphere) {
 }
 
 TEST(Places, EveryPlaceIsTheNearestToItself) {
-  for (const char* postal_code : {"66044", "33131", "80202", "98101", "04101", "85003", "99501", "96813",
-                                  "00901", "60601", "10001", "90012"}) {
+  for (const char* postal_code : kPostalCodes) {
     const Place* const place = FindPlace(postal_code);
     ASSERT_TRUE(place) << postal_code;
     EXPECT_EQ(&NearestPlace(place->point), place);
@@ -41,6 +45,16 @@ TEST(Places, EveryPlaceIsTheNearestToItself) {
     EXPECT_NEAR(place->point.longitude, place->radar.point.longitude, 1.6) << postal_code;
     // A zone is 15 degrees wide, and none of these towns is more than one off.
     EXPECT_NEAR(place->point.longitude / 15, place->gmt_offset, 1.2) << postal_code;
+  }
+}
+
+TEST(Places, EachIsObservedAtAMinuteOfItsOwn) {
+  std::set<int> minutes;
+  for (const char* postal_code : kPostalCodes) {
+    const int minute = FindPlace(postal_code)->minute;
+    EXPECT_GE(minute, 0);
+    EXPECT_LT(minute, 20);
+    EXPECT_TRUE(minutes.insert(minute).second) << postal_code;
   }
 }
 
