@@ -1,22 +1,20 @@
 // skyloft-feed: the companion server.
 #include <unistd.h>
 
-#include <array>
-#include <ctime>
 #include <exception>
 #include <fstream>
+#include <functional>
 #include <iostream>
 #include <iterator>
 #include <thread>
 
 #include "base/guard.h"
+#include "feedserver/clock.h"
 #include "feedserver/options.h"
 #include "feedserver/server.h"
 
 namespace skyloft::feed {
 namespace {
-
-Date GmtNow() { return {MakeDate(1970, 1, 1).seconds + static_cast<std::int64_t>(std::time(nullptr))}; }
 
 std::string ReadFile(const std::string& file_name) {
   std::ifstream file(file_name, std::ios::binary);
@@ -24,11 +22,10 @@ std::string ReadFile(const std::string& file_name) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-// Whoever started the server holds the other end of its input; so it never outlives them.
-void EndWithInput() {
-  std::array<char, 256> ignored;
-  while (read(STDIN_FILENO, ignored.data(), ignored.size()) > 0) {
-  }
+// Whoever started the server holds the other end of its input: its lines are theirs, and it never outlives
+// them.
+void HearInput(Clock& clock) {
+  for (std::string line; std::getline(std::cin, line);) std::cout << Obey(line, clock) << std::endl;
   _exit(0);
 }
 
@@ -42,10 +39,10 @@ int Serve(const std::vector<std::string>& arguments) {
   FaultBook faults;
   for (Fault& fault : options.faults) faults.Add(std::move(fault));
   RequestLog log(options.log_file);
-  const auto clock = [&options] { return options.now ? *options.now : GmtNow(); };
-  Server server({options.world, clock, faults, log}, options.port);
+  Clock clock(options.now);
+  Server server({options.world, [&clock] { return clock.Now(); }, faults, log}, options.port);
   std::cout << "listening " << server.Port() << std::endl;
-  if (!options.stays) std::thread(EndWithInput).detach();
+  if (!options.stays) std::thread(HearInput, std::ref(clock)).detach();
   server.Run();
   return 0;
 }

@@ -79,7 +79,8 @@ std::string_view HelpText() {
   --stay             do not end when standard input ends
   --help             print this
 
-The first line of its output is "listening PORT". It ends when its standard input does.
+The first line of its output is "listening PORT". A line "now TIME" on its standard input lets the clock
+stand at another time; it is written back when that is done. The server ends when its standard input does.
 )";
 }
 

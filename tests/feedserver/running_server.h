@@ -60,6 +60,19 @@ class RunningServer {
     input_ = -1;
   }
 
+  // Lets the server's clock stand at that time, in GMT.
+  void MoveClock(const std::string& time) const {
+    const std::string line = "now " + time;
+    EXPECT_EQ(Tell(line), line);
+  }
+
+  // The server's answer to a line on its input.
+  std::string Tell(const std::string& line) const {
+    const std::string whole = line + "\n";
+    EXPECT_EQ(write(input_, whole.data(), whole.size()), static_cast<ssize_t>(whole.size()));
+    return ReadLine();
+  }
+
   // The exit status, or -1 when the process is still there after the patience.
   int ExitStatus(std::chrono::milliseconds patience) {
     const auto end = std::chrono::steady_clock::now() + patience;
@@ -73,10 +86,15 @@ class RunningServer {
   }
 
  private:
-  void ReadPort() {
+  std::string ReadLine() const {
     std::string line;
     char c = 0;
     while (read(output_, &c, 1) == 1 && c != '\n') line += c;
+    return line;
+  }
+
+  void ReadPort() {
+    const std::string line = ReadLine();
     constexpr std::string_view start = "listening ";
     if (line.starts_with(start)) port_ = std::atoi(line.c_str() + start.size());
   }

@@ -41,6 +41,17 @@ TEST(Server, SeedAndClockMakeItRepeatable) {
   EXPECT_NE(reply, Get(other.Port(), target));
 }
 
+TEST(Server, ClockFollowsTheLinesOfItsInput) {
+  const RunningServer server({"--port", "0"});
+  const std::string target = "/forecast.asp?t=xml&d=meta&pc=66044";
+  server.MoveClock("2003-03-07T20:59:59");
+  EXPECT_NE(Get(server.Port(), target).find("<Model_TS_UTC>Mar 07 2003 12:00PM"), std::string::npos);
+  server.MoveClock("2003-03-07T21:00:00");
+  EXPECT_NE(Get(server.Port(), target).find("<Model_TS_UTC>Mar 07 2003 06:00PM"), std::string::npos);
+  EXPECT_EQ(server.Tell("later"), "not understood");
+  EXPECT_NE(Get(server.Port(), target).find("<Model_TS_UTC>Mar 07 2003 06:00PM"), std::string::npos);
+}
+
 TEST(Server, LogsALineForEveryRequest) {
   const std::string log = FileOfTest(".log");
   {

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QSet>
 
 #include "feedserver/running_server.h"
 #include "program/program.h"
@@ -33,6 +34,51 @@ pid_t FeedOf(pid_t parent) {
     if (!state.isEmpty() && state[0].startsWith("skyloft-feed") && state[2].toInt() == parent) return process;
   }
   return 0;
+}
+
+// The port at which a process listens; the kernel names its sockets by their inodes.
+int PortOf(pid_t process) {
+  const QDir files(QString("/proc/%1/fd").arg(process));
+  QSet<QByteArray> sockets;
+  for (const QString& file : files.entryList(QDir::Files | QDir::System)) {
+    const QByteArray link = QFile::symLinkTarget(files.filePath(file)).section("socket:", 1).toLatin1();
+    if (!link.isEmpty()) sockets.insert(link.mid(1).chopped(1));
+  }
+  for (const QByteArray& line : ReadBytes("/proc/net/tcp").split('\n')) {
+    const QList<QByteArray> fields = line.simplified().split(' ');
+    constexpr const char* listening = "0A";
+    if (fields.size() > 9 && fields[3] == listening && sockets.contains(fields[9]))
+      return fields[1].split(':').last().toInt(nullptr, 16);
+  }
+  return 0;
+}
+
+TEST(Process, FeedsClockFollowsTheProgramsClock) {
+  const struct {
+    const char *acts, *model;
+  } cases[] = {{"", "Mar 07 2003 12:00PM"},
+               {"clock 2003-03-07T14:59:00\n", "Mar 07 2003 12:00PM"},
+               {"clock 2003-03-07T14:59:00\ntick UpdateTimer 2\n", "Mar 07 2003 06:00PM"},
+               {"clock 2003-07-04T10:30:00\n", "Jul 04 2003 12:00PM"}};
+  for (const auto& c : cases) {
+    const Folder folder;
+    const auto run = StartAndStay(folder, c.acts);
+    const int port = PortOf(FeedOf(run->Process()));
+    ASSERT_GT(port, 0) << c.acts;
+    const std::string meta = feed::Get(port, "/forecast.asp?t=xml&d=meta&pc=66044");
+    EXPECT_EQ(TextsOf(meta, "Model_TS_UTC"), std::vector<std::string>{c.model}) << c.acts;
+  }
+}
+
+TEST(Process, ClockMovesOnWithoutItsFeed) {
+  const Folder folder;
+  folder.Write("script", "snapshot " + folder.Path("s").toUtf8() +
+                             "\nwait 1000\ntick UpdateTimer 2\nmenu ExitSkyloft\n");
+  ProgramRun run(folder, InRoot(folder, {"--demo", "--script", folder.Path("script")}));
+  ASSERT_TRUE(Within(20000, [&] { return Snapshot(folder.Path("s")).Saved(); }));
+  kill(FeedOf(run.Process()), SIGKILL);
+  const Ending ending = run.Wait();
+  EXPECT_EQ(ending.code, 0) << ending.errors;
 }
 
 TEST(Process, FeedEndsWithAKilledProgram) {

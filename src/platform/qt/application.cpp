@@ -79,16 +79,11 @@ std::optional<QString> SetUpFolders(const AppOptions& options) {
   return DriveRoot();
 }
 
-// The clock of the built-in server: the moment at which ours stands, in GMT.
-std::string FeedClock() {
-  return ClockStands() ? ToMoment(Now()).toUTC().toString("yyyy-MM-ddThh:mm:ss").toStdString() : "";
-}
-
 void SetUpServer(const AppOptions& options) {
   HostAddress.WebHost = options.hosts.empty() ? kWebHost : options.hosts;
   if (!options.hosts.empty()) SetExampleServer(options.hosts);
   if (!options.hosts.empty()) return;
-  if (const auto server = StartFeed(FeedClock())) SetExampleServer(*server);
+  if (const auto server = StartFeed()) SetExampleServer(*server);
 }
 
 void OnTerminate(int) {

@@ -1,7 +1,7 @@
 #include "platform/qt/feed_process.h"
 
-#include <fcntl.h>
 #include <spawn.h>
+#include <sys/socket.h>
 #include <unistd.h>
 
 #include <cstdio>
@@ -9,23 +9,32 @@
 #include <vector>
 
 #include "base/values.h"
+#include "platform/qt/clock_qt.h"
 
 extern char** environ;
 
 namespace skyloft {
 namespace {
 
-// A pipe whose ends no other process inherits by chance.
-bool MakePipe(int (&ends)[2]) { return pipe2(ends, O_CLOEXEC) == 0; }
+// Our end of the feed's input and output, open until this process is gone: its end is the feed's end.
+int feed_socket = -1;
 
-// The first line that the feed writes: "listening PORT".
-std::optional<std::string> ReadPort(int output) {
+std::string ReadLine(int socket) {
   std::string line;
   char c = 0;
-  while (line.size() < 100 && read(output, &c, 1) == 1 && c != '\n') line += c;
+  while (line.size() < 100 && read(socket, &c, 1) == 1 && c != '\n') line += c;
+  return line;
+}
+
+// The first line that the feed writes: "listening PORT".
+std::optional<std::string> ReadPort(int socket) {
+  const std::string line = ReadLine(socket);
   if (!line.starts_with("listening ")) return std::nullopt;
   return NumberText(LenientNumber(line.substr(10)));
 }
+
+// The moment at which our clock stands, in GMT.
+std::string StandingMoment() { return ToMoment(Now()).toUTC().toString("yyyy-MM-ddThh:mm:ss").toStdString(); }
 
 }  // namespace
 
@@ -35,34 +44,40 @@ std::string ProgramFolder() {
   return error ? "." : self.parent_path().string();
 }
 
-std::optional<std::string> StartFeed(const std::string& now) {
-  int input[2];
-  int output[2];
-  if (!MakePipe(input) || !MakePipe(output)) return std::nullopt;
+std::optional<std::string> StartFeed() {
+  int ends[2];  // ours and the feed's; no other process inherits them by chance
+  if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0) return std::nullopt;
   posix_spawn_file_actions_t actions;
   posix_spawn_file_actions_init(&actions);
-  posix_spawn_file_actions_adddup2(&actions, input[0], STDIN_FILENO);
-  posix_spawn_file_actions_adddup2(&actions, output[1], STDOUT_FILENO);
+  posix_spawn_file_actions_adddup2(&actions, ends[1], STDIN_FILENO);
+  posix_spawn_file_actions_adddup2(&actions, ends[1], STDOUT_FILENO);
   std::string program = ProgramFolder() + "/skyloft-feed";
   std::vector<std::string> words = {program, "--port", "0"};
-  if (!now.empty()) words.insert(words.end(), {"--now", now});
+  if (ClockStands()) words.insert(words.end(), {"--now", StandingMoment()});
   std::vector<char*> arguments;
+  arguments.reserve(words.size() + 1);
   for (std::string& word : words) arguments.push_back(word.data());
   arguments.push_back(nullptr);
   pid_t child = 0;
   const bool started =
       posix_spawn(&child, program.c_str(), &actions, nullptr, arguments.data(), environ) == 0;
   posix_spawn_file_actions_destroy(&actions);
-  close(input[0]);
-  close(output[1]);
-  // The feed's input stays open until this process is gone: its end is the feed's end.
-  const auto port = started ? ReadPort(output[0]) : std::nullopt;
-  close(output[0]);
+  close(ends[1]);
+  const auto port = started ? ReadPort(ends[0]) : std::nullopt;
   if (!port) {
     std::fprintf(stderr, "skyloft: the built-in weather server did not start (%s)\n", program.c_str());
+    close(ends[0]);
     return std::nullopt;
   }
+  feed_socket = ends[0];
   return "127.0.0.1:" + *port;
+}
+
+void MoveFeedClock() {
+  if (feed_socket < 0 || !ClockStands()) return;
+  const std::string line = "now " + StandingMoment() + "\n";
+  const auto size = static_cast<ssize_t>(line.size());
+  if (send(feed_socket, line.data(), line.size(), MSG_NOSIGNAL) == size) ReadLine(feed_socket);
 }
 
 }  // namespace skyloft

@@ -17,6 +17,7 @@
 #include "platform/qt/clock_qt.h"
 #include "platform/qt/dialogs_qt.h"
 #include "platform/qt/display.h"
+#include "platform/qt/feed_process.h"
 #include "platform/qt/process_qt.h"
 #include "platform/qt/script_acts.h"
 #include "platform/qt/snapshot.h"
@@ -197,6 +198,7 @@ class Command {
     Date moment;
     if (!TryReadDate(Rest(1), moment)) Fail(line_, "no date");
     StopClock(moment);
+    MoveFeedClock();
     return true;
   }
   bool Answer() {

@@ -6,6 +6,7 @@
 #include "forms/forms.h"
 #include "forms/menu_form.h"
 #include "platform/qt/clock_qt.h"
+#include "platform/qt/feed_process.h"
 
 namespace skyloft {
 namespace {
@@ -132,6 +133,7 @@ std::string TickTimer(const std::string& name, int count) {
   if (!timer) return "no timer " + name;
   for (int i = 0; i < count; ++i) {
     MoveClock(timer->Interval / 1000);
+    MoveFeedClock();
     Raise([&] { timer->Elapse(); });
   }
   return "";
