@@ -85,6 +85,46 @@ TEST(Astronomy, MoonStandsWhereItIsPublished) {
   EXPECT_NEAR(moon.declination, 13.768368, 3 * kArcMinute);
 }
 
+// Right ascension and declination of a direction of the ecliptic, both in radians.
+Equatorial Turned(double longitude, double latitude) {
+  const double v = std::cos(latitude) * std::sin(longitude), w = std::sin(latitude);
+  const double x = std::cos(latitude) * std::cos(longitude);
+  const double y = 0.91748 * v - 0.39778 * w, z = 0.39778 * v + 0.91748 * w;
+  const double rho = std::sqrt(1 - z * z);
+  const double hours = 48 / 6.283185307 * std::atan(y / (x + rho));
+  return {hours < 0 ? hours + 24 : hours, 360 / 6.283185307 * std::atan(z / rho)};
+}
+
+// The series once more, term by term.
+Equatorial MoonOfTheSeries(double t) {
+  const auto angle = [](double x) { return 6.283185307 * (x - std::floor(x)); };
+  const auto sine = [](double x) { return std::sin(x); };
+  const double l = angle(0.374897 + 1325.55241 * t), ls = angle(0.993133 + 99.997361 * t);
+  const double d = angle(0.827361 + 1236.853086 * t), f = angle(0.259086 + 1342.227825 * t);
+  const double dl = 22640 * sine(l) - 4586 * sine(l - 2 * d) + 2370 * sine(2 * d) + 769 * sine(2 * l) -
+                    668 * sine(ls) - 412 * sine(2 * f) - 212 * sine(2 * l - 2 * d) -
+                    206 * sine(l + ls - 2 * d) + 192 * sine(l + 2 * d) - 165 * sine(ls - 2 * d) -
+                    125 * sine(d) - 110 * sine(l + ls) + 148 * sine(l - ls) - 55 * sine(2 * f - 2 * d);
+  const double s = f + (dl + 412 * sine(2 * f) + 541 * sine(ls)) / 206264.8062, h = f - 2 * d;
+  const double n = -526 * sine(h) + 44 * sine(l + h) - 31 * sine(h - l) - 23 * sine(ls + h) +
+                   11 * sine(h - ls) - 25 * sine(f - 2 * l) + 21 * sine(f - l);
+  return Turned(angle(0.606433 + 1336.855225 * t + dl / 1296000), (18520 * sine(s) + n) / 206264.8062);
+}
+
+TEST(Astronomy, SeriesHaveTheirConstantsAsWritten) {
+  for (double t = -0.3; t < 0.5; t += 0.0071) {
+    const Equatorial moon = MoonPosition(t), same = MoonOfTheSeries(t);
+    EXPECT_NEAR(moon.right_ascension, same.right_ascension, 1e-9) << t;
+    EXPECT_NEAR(moon.declination, same.declination, 1e-9) << t;
+    const double m = 6.283185307 * FractionalPart(0.993133 + 99.997361 * t);
+    const double revolutions =
+        0.7859453 + m / 6.283185307 + (6191.2 * t + 6893 * std::sin(m) + 72 * std::sin(2 * m)) / 1296000;
+    const Equatorial sun = SunPosition(t), again = Turned(6.283185307 * FractionalPart(revolutions), 0);
+    EXPECT_NEAR(sun.right_ascension, again.right_ascension, 1e-9) << t;
+    EXPECT_NEAR(sun.declination, again.declination, 1e-9) << t;
+  }
+}
+
 TEST(Astronomy, PositionsStayWithinTheirRanges) {
   for (double t = -0.5; t < 0.5; t += 0.000137) {
     for (const Equatorial& place : {SunPosition(t), MoonPosition(t)}) {
