@@ -14,8 +14,8 @@ namespace skyloft::feed {
 namespace {
 
 constexpr int kHistoryRows = 48, kHourlyRows = 66, kExtendedRows = 25;
-constexpr std::int64_t kPeriodHours = 12;
-constexpr std::int64_t kMinute = 60, kHour = 60 * kMinute;  // seconds
+constexpr std::int64_t kPeriodHours = 12, kHourlyPeriods = 6;  // the last of them cut off
+constexpr std::int64_t kMinute = 60, kHour = 60 * kMinute;     // seconds
 constexpr std::int64_t kRunSeconds = 6 * kHour, kRunDelaySeconds = 3 * kHour,
                        kObservationSeconds = 20 * kMinute;
 
@@ -132,9 +132,10 @@ void AddPeriod(XmlDocument& xml, const Spot& spot, Date end, std::uint64_t seed)
   AddRow(xml, teller, kWindTags);
 }
 
+// Goes on where five periods of the hourly forecast end, so that both together reach over twelve whole days.
 std::string ExtendedXml(const std::vector<Spot>& spots, Date now, std::uint64_t seed) {
   XmlDocument xml("extended");
-  const Date first = AddHours(FloorTo(ModelRun(now), kPeriodHours * kHour), kPeriodHours);
+  const Date first = AddHours(FloorTo(ModelRun(now), kPeriodHours * kHour), kHourlyPeriods * kPeriodHours);
   for (const Spot& spot : spots) {
     for (int i = 0; i < kExtendedRows; ++i) AddPeriod(xml, spot, AddHours(first, i * kPeriodHours), seed);
   }

@@ -52,7 +52,7 @@ void SystemTray() {
     LoadIcon(icons[1], IconPath(files.number));
     LoadIcon(icons[2], IconPath("F.ico"));
     const bool descending = system.platform >= 2 && system.version > 5;
-    for (int i = first; i <= 2; ++i) icons[descending ? 2 + first - i : i].Added = true;
+    for (int i = first; i <= 2; ++i) AddToTray(icons[descending ? 2 + first - i : i]);
     const std::string tip = LocationProfile[ProfileRow::Title][slot] + " " + temperature + " F " +
                             UpperCase(ObservationRecord.Desc[slot]);
     for (int i = 0; i <= 2; ++i) icons[i].ToolTip = tip;

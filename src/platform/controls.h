@@ -365,7 +365,7 @@ class TrayIcon : public Control {
   void Describe(PropertyList& out) const override;
   void Accept(ControlVisitor& visitor) override;
   Property<std::string> Icon{this};
-  Property<bool> Added{this};
+  Property<bool> Added{this};  // whether it is in the tray; true by AddToTray
   Event Click, SecondaryClick;
 };
 

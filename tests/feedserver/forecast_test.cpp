@@ -183,13 +183,13 @@ TEST(Hourly, StopOfATripIsASingleHour) {
   EXPECT_TRUE(Ask("st=noon&et=noon&t=xml&pc=66044").empty());
 }
 
-TEST(Extended, HasTwentyFivePeriodsFromTheRunOn) {
+TEST(Extended, HasTwentyFivePeriodsFromTheEndOfTheHourlyForecastOn) {
   const struct {
     const char *now, *first;
-  } cases[] = {{"2003-03-07 20:05:00", "Mar 08 2003 12:00AM"},   // run at 12
-               {"2003-03-07 22:05:00", "Mar 08 2003 12:00AM"},   // run at 18
-               {"2003-03-08 04:05:00", "Mar 08 2003 12:00PM"},   // run at 0
-               {"2003-03-08 10:05:00", "Mar 08 2003 12:00PM"}};  // run at 6
+  } cases[] = {{"2003-03-07 20:05:00", "Mar 10 2003 12:00PM"},   // run at 12
+               {"2003-03-07 22:05:00", "Mar 10 2003 12:00PM"},   // run at 18
+               {"2003-03-08 04:05:00", "Mar 11 2003 12:00AM"},   // run at 0
+               {"2003-03-08 10:05:00", "Mar 11 2003 12:00AM"}};  // run at 6
   for (const auto& c : cases) {
     const Elements extended = Ask("t=xml&fcsttype=extended&pc=66044&pc=33131", ReadDate(c.now));
     for (const char* tag : {"Ut", "Desc", "Ic", "Th", "Tl", "Rn", "Sn", "Wd", "Ws"}) {
@@ -205,19 +205,21 @@ TEST(Extended, HasTwentyFivePeriodsFromTheRunOn) {
 
 TEST(Extended, PeriodsAreTheExtremesAndSumsOfTheirHours) {
   for (std::uint64_t seed = 1; seed < 6; ++seed) {
-    const Elements hourly = Ask(std::string(kWideRange) + "&pc=98101", kNow, seed);  // from 13 GMT
-    const Elements extended =
-        Ask("t=xml&fcsttype=extended&pc=98101", kNow, seed);  // from the period to 0 GMT
-    const auto temperatures = Numbers(hourly, "Tf"), rain = Numbers(hourly, "Rn");
+    const Elements extended = Ask("t=xml&fcsttype=extended&pc=98101", kNow, seed);
     for (std::size_t period = 0; period < 5; ++period) {
-      const auto begin = static_cast<std::ptrdiff_t>(period * 12);
-      const auto [low, high] =
-          std::minmax_element(temperatures.begin() + begin, temperatures.begin() + begin + 12);
+      const Date end = StampOf(Values(extended, "Ut")[period]);
+      std::vector<double> temperatures;
+      double rain = 0;
+      for (int i = 0; i < 12; ++i) {
+        const std::string hour = DateText(DateAdd(DateUnit::Hours, -i, end));
+        const Elements stop = Ask("st=" + hour + "&et=" + hour + "&t=xml&pc=98101", kNow, seed);
+        temperatures.push_back(Numbers(stop, "Tf")[0]);
+        rain += Numbers(stop, "Rn")[0];
+      }
+      const auto [low, high] = std::minmax_element(temperatures.begin(), temperatures.end());
       EXPECT_EQ(Numbers(extended, "Th")[period], *high);
       EXPECT_EQ(Numbers(extended, "Tl")[period], *low);
-      double sum = 0;
-      for (std::size_t i = 0; i < 12; ++i) sum += rain[period * 12 + i];
-      EXPECT_NEAR(Numbers(extended, "Rn")[period], sum, 12 * 0.005 + 0.005);  // each hour is rounded
+      EXPECT_NEAR(Numbers(extended, "Rn")[period], rain, 12 * 0.005 + 0.005);  // each hour is rounded
     }
   }
 }

@@ -28,6 +28,10 @@ void StartUpdate(const std::string& path) { Doubles.started_updates.push_back(pa
 int DotsPerInch() { return Doubles.dots_per_inch; }
 ScreenSize GetScreenSize() { return Doubles.screen; }
 WorkArea GetWorkArea() { return Doubles.work_area; }
+void AddToTray(TrayIcon& icon) {
+  icon.Added = true;
+  Doubles.tray.push_back(icon.Name());
+}
 SystemVersion GetSystemVersion() { return Doubles.system_version; }
 
 std::string ApplicationPath() { return Doubles.application_path; }

@@ -39,7 +39,7 @@ Date FileTime(const std::string& path) {
 
 std::vector<std::string> ListFiles(const std::string& folder) {
   std::vector<std::string> names;
-  const std::string start = LowerCase(folder) + "\\";
+  const std::string start = LowerCase(folder) + (folder.ends_with('\\') ? "" : "\\");
   for (const auto& [path, bytes] : Doubles.files) {
     if (path.starts_with(start)) names.push_back(path.substr(start.size()));
   }

@@ -77,6 +77,7 @@ struct DoublesState {
   ScreenSize screen = {1280 * 15, 1024 * 15};
   WorkArea work_area = {0, 1280 * 15, 1000 * 15};
   SystemVersion system_version = {2, 6, 0};
+  std::vector<std::string> tray;  // icons put into the tray, in that order
   std::string application_path = "C:\\somewhere\\else\\skyloft.exe";
 
   // The reply to every address that holds `part`.

@@ -22,8 +22,8 @@ void Display::ShowDirty() {
   for (Control* control : TakeDirtyControls()) {
     if (auto* timer = dynamic_cast<Timer*>(control)) {
       ShowTimer(*timer);
-    } else if (auto* icon = dynamic_cast<TrayIcon*>(control)) {
-      ShowTrayIcon(*icon);
+    } else if (dynamic_cast<TrayIcon*>(control)) {
+      ShowTray();
     } else if (auto* form = dynamic_cast<Form*>(control)) {
       if (form->Visible || MadeWindowOf(*form)) WindowOf(*form).ShowForm();
     } else if (FormWindow* window = MadeWindowOf(*control->Owner())) {

@@ -1,7 +1,9 @@
 #include "platform/qt/tray_qt.h"
 
+#include <algorithm>
 #include <map>
 #include <memory>
+#include <vector>
 
 #include <QIcon>
 #include <QPixmap>
@@ -21,14 +23,25 @@ std::map<std::string, QIcon>& LoadedIcons() {
   return icons;
 }
 
-QSystemTrayIcon& MakeIcon(TrayIcon& model) {
-  auto* icon = new QSystemTrayIcon();  // ends with the process
-  QObject::connect(icon, &QSystemTrayIcon::activated, icon,
+struct ViewOfIcon {
+  TrayIcon* model;
+  std::unique_ptr<QSystemTrayIcon> icon;
+};
+
+// In the order in which they joined the tray. Outlives everything, as the process ends without unwinding.
+std::vector<ViewOfIcon>& Views() {
+  static auto* views = new std::vector<ViewOfIcon>();
+  return *views;
+}
+
+ViewOfIcon MakeView(TrayIcon& model) {
+  auto icon = std::make_unique<QSystemTrayIcon>();
+  QObject::connect(icon.get(), &QSystemTrayIcon::activated, icon.get(),
                    [&model](QSystemTrayIcon::ActivationReason reason) {
                      const bool secondary = reason == QSystemTrayIcon::Context;
                      Raise([&] { Fire(secondary ? model.SecondaryClick : model.Click); });
                    });
-  return *icon;
+  return {&model, std::move(icon)};
 }
 
 }  // namespace
@@ -41,18 +54,32 @@ void LoadIcon(TrayIcon& control, const std::string& path) {
   control.Icon = path;
 }
 
+void AddToTray(TrayIcon& model) {
+  model.Added = true;
+  auto& views = Views();
+  const auto found = std::ranges::find(views, &model, &ViewOfIcon::model);
+  if (found == views.end()) {
+    views.push_back(MakeView(model));
+  } else {
+    std::rotate(found, found + 1, views.end());
+  }
+}
+
 SystemVersion GetSystemVersion() { return {.platform = 2, .version = 6, .build = 0}; }
 
-void ShowTrayIcon(TrayIcon& model) {
-  static std::map<const TrayIcon*, QSystemTrayIcon*> icons;
-  QSystemTrayIcon*& icon = icons[&model];
-  if (!icon) {
-    if (!model.Added) return;
-    icon = &MakeIcon(model);
+void ShowTray() {
+  // An icon joins behind the others, so that a change of their number takes all out first.
+  const bool same = std::ranges::all_of(
+      Views(), [](const ViewOfIcon& view) { return view.icon->isVisible() == view.model->Added; });
+  for (const ViewOfIcon& view : Views()) {
+    if (!same) view.icon->hide();
   }
-  icon->setIcon(LoadedIcons()[model.Icon]);
-  icon->setToolTip(ToQt(model.ToolTip));
-  icon->setVisible(model.Added);
+  for (const ViewOfIcon& view : Views()) {
+    if (!view.model->Added) continue;
+    view.icon->setIcon(LoadedIcons()[view.model->Icon]);
+    view.icon->setToolTip(ToQt(view.model->ToolTip));
+    view.icon->show();
+  }
 }
 
 }  // namespace skyloft

@@ -1,11 +1,9 @@
 // The tray icons of the desktop.
 #pragma once
 
-#include "platform/controls.h"
-
 namespace skyloft {
 
-// Brings an icon of the tray up to its model.
-void ShowTrayIcon(TrayIcon& model);
+// Brings the icons in the tray up to their models.
+void ShowTray();
 
 }  // namespace skyloft

@@ -1,0 +1,90 @@
+#include "browser/player.h"
+
+#include "browser/selection.h"
+#include "forms/main_form.h"
+#include "station.h"
+#include "weather/periods.h"
+
+namespace skyloft {
+namespace {
+
+class Player : public Station {
+ protected:
+  Player() {
+    Browser.SelectedProduct = "Weekly Planner";  // whose times show nothing themselves
+    Periods.HourIndexMax = 65;
+  }
+  static void SetTimes(int count) {
+    MainForm.TimeSelection.Clear();
+    for (int i = 0; i < count; ++i) MainForm.TimeSelection.AddItem("Time " + std::to_string(i));
+    if (count > 0) MainForm.TimeSelection.Select(0);
+    BackNextPlayStopState();
+  }
+  static std::string Picture(const ImageButton& button) {
+    return button.PicturePath().substr(button.PicturePath().rfind('\\') + 1);
+  }
+};
+
+TEST_F(Player, BackNextAndPlayWorkFromTwoTimesOnAndStopNever) {
+  for (const auto& [count, works] : {std::pair{0, false}, {1, false}, {2, true}, {20, true}}) {
+    MainForm.StopButton.Enabled = true;
+    SetTimes(count);
+    const std::pair<const ImageButton*, std::string> buttons[] = {
+        {&MainForm.BackButton, "back"}, {&MainForm.NextButton, "next"}, {&MainForm.PlayButton, "play"}};
+    for (const auto& [button, name] : buttons) {
+      EXPECT_EQ(button->Enabled, works) << name << count;
+      EXPECT_TRUE(button->Visible) << name;
+      EXPECT_EQ(Picture(*button), name + (works ? ".gif" : "d.gif")) << count;
+    }
+    EXPECT_FALSE(MainForm.StopButton.Enabled);
+    EXPECT_EQ(Picture(MainForm.StopButton), "stopd.gif");
+  }
+}
+
+TEST_F(Player, BackStopsAtTheFirstEntryAndNextGoesFromTheLastToTheFirst) {
+  SetTimes(3);
+  const struct {
+    ImageButton* button;
+    int index;
+  } steps[] = {{&MainForm.BackButton, 0}, {&MainForm.NextButton, 1}, {&MainForm.NextButton, 2},
+               {&MainForm.BackButton, 1}, {&MainForm.NextButton, 2}, {&MainForm.NextButton, 0}};
+  for (const auto& step : steps) {
+    step.button->Press();
+    EXPECT_EQ(MainForm.TimeSelection.ListIndex(), step.index);
+    EXPECT_EQ(MainForm.ProductTitle.Caption.Get(), "Weekly Planner Time " + std::to_string(step.index));
+  }
+}
+
+TEST_F(Player, AStepTurnsTheBarBlueAndStopsPlaying) {
+  SetTimes(3);
+  for (ImageButton* button : {&MainForm.BackButton, &MainForm.NextButton}) {
+    MainForm.ProgressBar.Color = 65280;
+    MainForm.ImageForwardTimer.Enabled = true;
+    button->Press();
+    EXPECT_EQ(MainForm.ProgressBar.Color, 0xff0000);
+    EXPECT_FALSE(MainForm.ImageForwardTimer.Enabled);
+  }
+}
+
+TEST_F(Player, AProductOfOneFrameStaysWhereItIs) {
+  SetTimes(3);
+  Periods.HourIndexMax = 0;
+  MainForm.ImageForwardTimer.Enabled = true;
+  MainForm.NextButton.Press();
+  EXPECT_EQ(MainForm.TimeSelection.ListIndex(), 0);
+  EXPECT_TRUE(MainForm.ImageForwardTimer.Enabled);
+  EXPECT_EQ(MainForm.ProductTitle.Caption.Get(), "Weekly Planner Time 0");
+}
+
+TEST_F(Player, EachStepRaisesTheSelectionOnce) {
+  SetTimes(2);
+  int raised = 0;
+  MainForm.TimeSelection.Click = [&] { ++raised; };
+  MainForm.NextButton.Press();
+  MainForm.BackButton.Press();
+  MainForm.BackButton.Press();
+  EXPECT_EQ(raised, 3) << "also for the entry that stays";
+}
+
+}  // namespace
+}  // namespace skyloft
