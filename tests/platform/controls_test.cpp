@@ -227,5 +227,32 @@ TEST(Skin, TheToldSizesHold) {
   EXPECT_EQ(MainForm.Sponsor2.Height, 15);
 }
 
+TEST(Controls, APositionOutsideTheBarIsBroughtToItsNearerEnd) {
+  const struct {
+    int max, value, shown;
+  } cases[] = {{65, 8, 8}, {65, 0, 0}, {65, 65, 65}, {59, 64, 59}, {59, -1, 0}, {0, 5, 0}, {-1, 0, 0}};
+  for (const auto& c : cases) {
+    MainForm.ProgressBar.SetPosition(c.max, c.value);
+    EXPECT_EQ(MainForm.ProgressBar.Max, c.max);
+    EXPECT_EQ(MainForm.ProgressBar.Value, c.shown) << c.max << " " << c.value;
+  }
+  MainForm = {};
+}
+
+TEST(Controls, ADocumentTakesThePlaceOfAnAddressAndEachVisitShowsItAnew) {
+  HtmlDisplay& page = MainForm.Display2;
+  page.Document = "one";
+  page.Navigate("C:\\a.htm");
+  EXPECT_EQ(page.Document.Get(), "");
+  EXPECT_EQ(page.Address(), "C:\\a.htm");
+  TakeDirtyControls();
+  page.Navigate("C:\\a.htm");
+  EXPECT_TRUE(AnyDirtyControl());
+  TakeDirtyControls();
+  page.Document = "one";
+  EXPECT_TRUE(AnyDirtyControl()) << "the same document as before the visits";
+  MainForm = {};
+}
+
 }  // namespace
 }  // namespace skyloft
