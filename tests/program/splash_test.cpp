@@ -2,11 +2,7 @@
 #include <gtest/gtest.h>
 #include <signal.h>
 
-#include <QElapsedTimer>
-#include <QThread>
-
 #include <memory>
-#include <utility>
 
 #include "feedserver/running_server.h"
 #include "program/program.h"
@@ -32,32 +28,7 @@ class SplashOfAHangingStart : public testing::Test {
     splash_ = display_->LargestWindow();
   }
 
-  QByteArray Pixels() const { return display_->Pixels(splash_.place); }
-  // Of four bytes a pixel, all alike.
-  bool IsCovered() const {
-    const QByteArray pixels = Pixels();
-    return pixels.mid(4) == pixels.chopped(4);
-  }
-  // What the splash shows as soon as it stands.
-  QByteArray AwaitPainted() const {
-    QByteArray painted;
-    EXPECT_TRUE(Await(5000, [&] {
-      const QByteArray before = std::exchange(painted, Pixels());
-      QThread::msleep(200);
-      return before == painted && !IsCovered();
-    }));
-    return painted;
-  }
-  // Covers the splash for a moment: milliseconds until it is painted again, which its event loop does.
-  qint64 TimeToRepaint(const QByteArray& painted) const {
-    const xcb_window_t cover = display_->Cover(splash_.place);
-    EXPECT_TRUE(Await(1000, [&] { return IsCovered(); }));
-    QElapsedTimer clock;
-    clock.start();
-    display_->Uncover(cover);
-    EXPECT_TRUE(Await(1000, [&] { return Pixels() == painted; }));
-    return clock.elapsed();
-  }
+  WatchedWindow Watched() const { return {*display_, splash_}; }
 
   Folder folder_;
   std::unique_ptr<XDisplay> display_;
@@ -66,13 +37,16 @@ class SplashOfAHangingStart : public testing::Test {
   XDisplay::Window splash_;
 };
 
-TEST_F(SplashOfAHangingStart, IsPaintedAgainAfterItWasCovered) { TimeToRepaint(AwaitPainted()); }
+TEST_F(SplashOfAHangingStart, IsPaintedAgainAfterItWasCovered) {
+  Watched().TimeToRepaint(Watched().AwaitPainted());
+}
 
 TEST_F(SplashOfAHangingStart, AnswersWithin100Milliseconds) {
-  const QByteArray painted = AwaitPainted();
+  const WatchedWindow splash = Watched();
+  const QByteArray painted = splash.AwaitPainted();
   // A busy machine may take the processor away once or twice.
   int in_time = 0;
-  for (int i = 0; i < 10; ++i) in_time += TimeToRepaint(painted) <= 100;
+  for (int i = 0; i < 10; ++i) in_time += splash.TimeToRepaint(painted) <= 100;
   EXPECT_GE(in_time, 8);
 }
 

@@ -1,9 +1,17 @@
 #include "program/x_display.h"
 
+#include <gtest/gtest.h>
+#include <xcb/xtest.h>
+
 #include <cstdlib>
 #include <memory>
+#include <utility>
 
+#include <QElapsedTimer>
 #include <QStandardPaths>
+#include <QThread>
+
+#include "program/program.h"
 
 namespace skyloft::program {
 namespace {
@@ -55,6 +63,12 @@ XDisplay::Window XDisplay::LargestWindow() const {
   return largest;
 }
 
+bool XDisplay::Mapped(const Window& window) const {
+  const auto attributes = Take(xcb_get_window_attributes_reply(
+      connection_, xcb_get_window_attributes(connection_, window.id), nullptr));
+  return attributes && attributes->map_state == XCB_MAP_STATE_VIEWABLE;
+}
+
 QByteArray XDisplay::Pixels(const QRect& place) const {
   const auto image = Take(xcb_get_image_reply(
       connection_,
@@ -84,6 +98,43 @@ xcb_window_t XDisplay::Cover(const QRect& place) const {
 void XDisplay::Uncover(xcb_window_t cover) const {
   xcb_destroy_window(connection_, cover);
   xcb_flush(connection_);
+}
+
+void XDisplay::Click(const QPoint& place) const {
+  const auto fake = [&](std::uint8_t event, std::uint8_t detail) {
+    xcb_test_fake_input(connection_, event, detail, XCB_CURRENT_TIME, screen_->root,
+                        static_cast<std::int16_t>(place.x()), static_cast<std::int16_t>(place.y()), 0);
+  };
+  fake(XCB_MOTION_NOTIFY, 0);
+  fake(XCB_BUTTON_PRESS, XCB_BUTTON_INDEX_1);
+  fake(XCB_BUTTON_RELEASE, XCB_BUTTON_INDEX_1);
+  xcb_flush(connection_);
+}
+
+// Of four bytes a pixel, all alike.
+bool WatchedWindow::IsCovered() const {
+  const QByteArray pixels = Pixels();
+  return pixels.mid(4) == pixels.chopped(4);
+}
+
+QByteArray WatchedWindow::AwaitPainted() const {
+  QByteArray painted;
+  EXPECT_TRUE(Await(5000, [&] {
+    const QByteArray before = std::exchange(painted, Pixels());
+    QThread::msleep(200);
+    return before == painted && !IsCovered();
+  }));
+  return painted;
+}
+
+qint64 WatchedWindow::TimeToRepaint(const QByteArray& painted) const {
+  const xcb_window_t cover = display_.Cover(window_.place);
+  EXPECT_TRUE(Await(1000, [&] { return IsCovered(); }));
+  QElapsedTimer clock;
+  clock.start();
+  display_.Uncover(cover);
+  EXPECT_TRUE(Await(1000, [&] { return Pixels() == painted; }));
+  return clock.elapsed();
 }
 
 }  // namespace skyloft::program

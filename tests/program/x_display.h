@@ -1,4 +1,4 @@
-// A display without a screen, and a client that looks at the windows on it.
+// A display without a screen, and a client that looks at the windows on it and plays the mouse.
 #pragma once
 
 #include <xcb/xcb.h>
@@ -6,6 +6,7 @@
 #include <vector>
 
 #include <QByteArray>
+#include <QPoint>
 #include <QProcess>
 #include <QRect>
 #include <QString>
@@ -29,17 +30,39 @@ class XDisplay {
   };
   // The largest mapped window; its id is 0 when there is none.
   Window LargestWindow() const;
+  bool Mapped(const Window& window) const;
   // The pixels of that part of the screen.
   QByteArray Pixels(const QRect& place) const;
   // A plain window above all others, and its end.
   xcb_window_t Cover(const QRect& place) const;
   void Uncover(xcb_window_t cover) const;
+  // The mouse goes to a place on the screen and clicks there.
+  void Click(const QPoint& place) const;
 
  private:
   QProcess server_;
   QString name_;
   xcb_connection_t* connection_ = nullptr;
   xcb_screen_t* screen_ = nullptr;
+};
+
+// What a window shows, and how soon it shows it again: only a program whose events run paints it.
+class WatchedWindow {
+ public:
+  WatchedWindow(const XDisplay& display, const XDisplay::Window& window)
+      : display_(display), window_(window) {}
+
+  // Its pixels as soon as they stand.
+  QByteArray AwaitPainted() const;
+  // Covers it for a moment: milliseconds until it is painted again.
+  qint64 TimeToRepaint(const QByteArray& painted) const;
+
+ private:
+  QByteArray Pixels() const { return display_.Pixels(window_.place); }
+  bool IsCovered() const;
+
+  const XDisplay& display_;
+  XDisplay::Window window_;
 };
 
 }  // namespace skyloft::program
