@@ -8,7 +8,7 @@
 
 #include "feedserver/running_server.h"
 #include "program/program.h"
-#include "program/x_display.h"
+#include "program/watched_window.h"
 
 namespace skyloft::program {
 namespace {
@@ -18,10 +18,9 @@ constexpr QPoint kExitButton(733, 23);  // its middle, in the window
 class WindowDuringAHangingFetch : public testing::Test {
  protected:
   void SetUp() override {
-    if (!XDisplay::Installed()) GTEST_SKIP() << "Xvfb is not installed";
     SetUpTowns(folder_);
     display_ = std::make_unique<XDisplay>();
-    ASSERT_TRUE(display_->Up());
+    ASSERT_TRUE(display_->Up()) << "Xvfb must be installed";
     server_ = std::make_unique<feed::RunningServer>(std::vector<std::string>{
         "--port", "0", "--log", folder_.Path("log").toStdString(), "--fault", "/forecast.asp?d=meta=hang@2"});
     run_ = std::make_unique<ProgramRun>(

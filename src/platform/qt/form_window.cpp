@@ -1,9 +1,12 @@
 #include "platform/qt/form_window.h"
 
 #include <QCloseEvent>
+#include <QCursor>
+#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QWindow>
 
 #include "forms/forms.h"
 #include "platform/qt/html/html_view.h"
@@ -14,7 +17,7 @@
 namespace skyloft {
 namespace {
 
-// The bits of a form's style that the window acts on.
+// The bits of a form's style that the window acts on, but for the top-most band.
 Qt::WindowFlags FlagsOf(const Form& form) {
   const bool titled = (form.Style & 0xC00000u) != 0;
   const bool tool = (form.ExStyle & 0x80u) != 0;
@@ -22,7 +25,6 @@ Qt::WindowFlags FlagsOf(const Form& form) {
   Qt::WindowFlags flags = tool ? Qt::Tool : in_taskbar ? Qt::Window : titled ? Qt::Dialog : Qt::Tool;
   flags |= titled ? Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint
                   : Qt::FramelessWindowHint;
-  if (form.TopMost()) flags |= Qt::WindowStaysOnTopHint;
   return flags;
 }
 
@@ -58,9 +60,26 @@ void FormWindow::ShowForm() {
   placing_ = true;
   const bool placed = form_.Left != 0 || form_.Top != 0 || windowFlags().testFlag(Qt::FramelessWindowHint);
   if (placed && pos() != PixelsOf(form_)) move(PixelsOf(form_));
-  if (windowFlags() != FlagsOf(form_)) setWindowFlags(FlagsOf(form_));
+  if ((windowFlags() & ~Qt::WindowStaysOnTopHint) != FlagsOf(form_)) setWindowFlags(FlagsOf(form_));
   setVisible(form_.Visible);
+  PutOnTop(form_.TopMost());
   placing_ = false;
+}
+
+// The widget would hide its window for this, and a window that comes back takes the focus.
+void FormWindow::PutOnTop(bool on) {
+  if (!windowHandle() || windowFlags().testFlag(Qt::WindowStaysOnTopHint) == on) return;
+  overrideWindowFlags(windowFlags().setFlag(Qt::WindowStaysOnTopHint, on));
+  windowHandle()->setFlag(Qt::WindowStaysOnTopHint, on);
+}
+
+// The desktop moves the window, but X11's way to ask for that is for the left button.
+void FormWindow::StartDrag() {
+  held_at_.reset();
+  const bool left = QGuiApplication::mouseButtons().testFlag(Qt::LeftButton);
+  const bool asked = left || QGuiApplication::platformName() != "xcb";
+  if (asked && windowHandle() && windowHandle()->startSystemMove()) return;
+  held_at_ = QCursor::pos() - pos();
 }
 
 void FormWindow::ShowControl(const Control& control) {
@@ -88,7 +107,12 @@ void FormWindow::mousePressEvent(QMouseEvent* event) {
   Raise([&] { form_.Press(PressOf(*event)); });
 }
 
+void FormWindow::mouseMoveEvent(QMouseEvent* event) {
+  if (held_at_) move(event->globalPosition().toPoint() - *held_at_);
+}
+
 void FormWindow::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->buttons() == Qt::NoButton) held_at_.reset();
   Raise([&] { form_.Release(PressOf(*event)); });
 }
 

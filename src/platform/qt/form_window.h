@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <unordered_map>
 
 #include <QImage>
@@ -21,18 +22,23 @@ class FormWindow : public QWidget {
   void ShowForm();
   void ShowControl(const Control& control);
   void SetRegion(const RoundRegion& region);
+  // The window follows the mouse until the buttons are up.
+  void StartDrag();
   // Whether no page is waiting for a picture.
   bool Idle() const;
 
  protected:
   void closeEvent(QCloseEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void moveEvent(QMoveEvent* event) override;
   void changeEvent(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  void PutOnTop(bool on);
+
   // A control's widget and what brings it up to its model.
   struct View {
     QWidget* widget;
@@ -45,6 +51,7 @@ class FormWindow : public QWidget {
   std::unordered_map<const Control*, View> views_;
   std::vector<HtmlView*> pages_;
   bool placing_ = false;
+  std::optional<QPoint> held_at_;  // the pixel of the window that the mouse drags, where we move it ourselves
 };
 
 }  // namespace skyloft

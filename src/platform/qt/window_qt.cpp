@@ -66,8 +66,7 @@ void SetWindowRegion(Form& form, const RoundRegion& region) {
 }
 
 void StartWindowDrag(Form& form) {
-  FormWindow* window = Display::Get().MadeWindowOf(form);
-  if (window && window->windowHandle()) window->windowHandle()->startSystemMove();
+  if (FormWindow* window = Display::Get().MadeWindowOf(form)) window->StartDrag();
 }
 
 void ActivateWindow(Form& form) {

@@ -10,18 +10,19 @@
 #include <QProcess>
 #include <QRect>
 #include <QString>
+#include <QStringList>
 
-namespace skyloft::program {
+namespace skyloft {
 
 class XDisplay {
  public:
-  XDisplay();
+  enum class Manager { None, Openbox };  // what places and decorates the windows
+  explicit XDisplay(Manager manager = Manager::None);
   ~XDisplay();
   XDisplay(const XDisplay&) = delete;
   XDisplay& operator=(const XDisplay&) = delete;
 
-  static bool Installed();
-  bool Up() const { return connection_ && xcb_connection_has_error(connection_) == 0; }
+  bool Up() const { return up_; }
   QString Name() const { return name_; }  // such as ":7"
 
   struct Window {
@@ -36,33 +37,27 @@ class XDisplay {
   // A plain window above all others, and its end.
   xcb_window_t Cover(const QRect& place) const;
   void Uncover(xcb_window_t cover) const;
-  // The mouse goes to a place on the screen and clicks there.
+  // The values of a window's property; empty when it has none.
+  std::vector<std::uint32_t> Property(xcb_window_t window, const char* name) const;
+  // The names that a property lists.
+  QStringList Names(xcb_window_t window, const char* property) const;
+
+  // The mouse: its place on the screen, its buttons from 1, and a click with the left one.
+  void MoveMouse(const QPoint& place) const;
+  void PressButton(std::uint8_t button) const;
+  void ReleaseButton(std::uint8_t button) const;
   void Click(const QPoint& place) const;
 
  private:
-  QProcess server_;
+  bool Connect();
+  bool StartManager();
+  void Fake(std::uint8_t event, std::uint8_t detail, const QPoint& place) const;
+
+  QProcess server_, manager_;
   QString name_;
+  bool up_ = false;
   xcb_connection_t* connection_ = nullptr;
   xcb_screen_t* screen_ = nullptr;
 };
 
-// What a window shows, and how soon it shows it again: only a program whose events run paints it.
-class WatchedWindow {
- public:
-  WatchedWindow(const XDisplay& display, const XDisplay::Window& window)
-      : display_(display), window_(window) {}
-
-  // Its pixels as soon as they stand.
-  QByteArray AwaitPainted() const;
-  // Covers it for a moment: milliseconds until it is painted again.
-  qint64 TimeToRepaint(const QByteArray& painted) const;
-
- private:
-  QByteArray Pixels() const { return display_.Pixels(window_.place); }
-  bool IsCovered() const;
-
-  const XDisplay& display_;
-  XDisplay::Window window_;
-};
-
-}  // namespace skyloft::program
+}  // namespace skyloft

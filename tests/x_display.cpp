@@ -1,19 +1,16 @@
-#include "program/x_display.h"
+#include "x_display.h"
 
-#include <gtest/gtest.h>
 #include <xcb/xtest.h>
 
 #include <cstdlib>
+#include <cstring>
 #include <memory>
-#include <utility>
 
 #include <QElapsedTimer>
-#include <QStandardPaths>
+#include <QProcessEnvironment>
 #include <QThread>
 
-#include "program/program.h"
-
-namespace skyloft::program {
+namespace skyloft {
 namespace {
 
 template <typename T>
@@ -26,22 +23,43 @@ Reply<T> Take(T* reply) {
 
 }  // namespace
 
-bool XDisplay::Installed() { return !QStandardPaths::findExecutable("Xvfb").isEmpty(); }
-
-XDisplay::XDisplay() {
+XDisplay::XDisplay(Manager manager) {
   // Without a backing store the server forgets what is covered, so that the program must paint it again.
   server_.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1024x768x24", "-nolisten", "tcp", "-bs"});
   if (!server_.waitForReadyRead(10000)) return;
   name_ = ":" + QString::fromLatin1(server_.readLine().trimmed());
+  up_ = Connect() && (manager == Manager::None || StartManager());
+}
+
+bool XDisplay::Connect() {
   connection_ = xcb_connect(name_.toLatin1().data(), nullptr);
-  if (!Up()) return;
+  if (xcb_connection_has_error(connection_) != 0) return false;
   screen_ = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data;
+  return true;
+}
+
+bool XDisplay::StartManager() {
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert("DISPLAY", name_);
+  environment.insert("XDG_CONFIG_HOME", "/nonexistent");  // no settings of whoever runs the tests
+  manager_.setProcessEnvironment(environment);
+  manager_.start("openbox", QStringList());
+  if (!manager_.waitForStarted(5000)) return false;
+  QElapsedTimer clock;
+  clock.start();
+  while (Property(screen_->root, "_NET_SHOWING_DESKTOP").empty()) {
+    if (clock.elapsed() > 10000) return false;
+    QThread::msleep(10);
+  }
+  return true;
 }
 
 XDisplay::~XDisplay() {
   if (connection_) xcb_disconnect(connection_);
-  server_.kill();
-  server_.waitForFinished(5000);
+  for (QProcess* process : {&manager_, &server_}) {
+    process->kill();
+    process->waitForFinished(5000);
+  }
 }
 
 XDisplay::Window XDisplay::LargestWindow() const {
@@ -100,41 +118,47 @@ void XDisplay::Uncover(xcb_window_t cover) const {
   xcb_flush(connection_);
 }
 
-void XDisplay::Click(const QPoint& place) const {
-  const auto fake = [&](std::uint8_t event, std::uint8_t detail) {
-    xcb_test_fake_input(connection_, event, detail, XCB_CURRENT_TIME, screen_->root,
-                        static_cast<std::int16_t>(place.x()), static_cast<std::int16_t>(place.y()), 0);
-  };
-  fake(XCB_MOTION_NOTIFY, 0);
-  fake(XCB_BUTTON_PRESS, XCB_BUTTON_INDEX_1);
-  fake(XCB_BUTTON_RELEASE, XCB_BUTTON_INDEX_1);
+std::vector<std::uint32_t> XDisplay::Property(xcb_window_t window, const char* name) const {
+  const auto length = static_cast<std::uint16_t>(std::strlen(name));
+  const auto atom =
+      Take(xcb_intern_atom_reply(connection_, xcb_intern_atom(connection_, 0, length, name), nullptr));
+  if (!atom) return {};
+  const auto reply = Take(xcb_get_property_reply(
+      connection_, xcb_get_property(connection_, 0, window, atom->atom, XCB_GET_PROPERTY_TYPE_ANY, 0, 64),
+      nullptr));
+  if (!reply || reply->format != 32) return {};
+  const auto* const first = static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
+  return {first, first + reply->value_len};
+}
+
+QStringList XDisplay::Names(xcb_window_t window, const char* property) const {
+  QStringList names;
+  for (const std::uint32_t atom : Property(window, property)) {
+    const auto name =
+        Take(xcb_get_atom_name_reply(connection_, xcb_get_atom_name(connection_, atom), nullptr));
+    if (name)
+      names << QString::fromLatin1(xcb_get_atom_name_name(name.get()),
+                                   xcb_get_atom_name_name_length(name.get()));
+  }
+  return names;
+}
+
+void XDisplay::Fake(std::uint8_t event, std::uint8_t detail, const QPoint& place) const {
+  xcb_test_fake_input(connection_, event, detail, XCB_CURRENT_TIME, screen_->root,
+                      static_cast<std::int16_t>(place.x()), static_cast<std::int16_t>(place.y()), 0);
   xcb_flush(connection_);
 }
 
-// Of four bytes a pixel, all alike.
-bool WatchedWindow::IsCovered() const {
-  const QByteArray pixels = Pixels();
-  return pixels.mid(4) == pixels.chopped(4);
+void XDisplay::MoveMouse(const QPoint& place) const { Fake(XCB_MOTION_NOTIFY, 0, place); }
+
+void XDisplay::PressButton(std::uint8_t button) const { Fake(XCB_BUTTON_PRESS, button, {}); }
+
+void XDisplay::ReleaseButton(std::uint8_t button) const { Fake(XCB_BUTTON_RELEASE, button, {}); }
+
+void XDisplay::Click(const QPoint& place) const {
+  MoveMouse(place);
+  PressButton(XCB_BUTTON_INDEX_1);
+  ReleaseButton(XCB_BUTTON_INDEX_1);
 }
 
-QByteArray WatchedWindow::AwaitPainted() const {
-  QByteArray painted;
-  EXPECT_TRUE(Await(5000, [&] {
-    const QByteArray before = std::exchange(painted, Pixels());
-    QThread::msleep(200);
-    return before == painted && !IsCovered();
-  }));
-  return painted;
-}
-
-qint64 WatchedWindow::TimeToRepaint(const QByteArray& painted) const {
-  const xcb_window_t cover = display_.Cover(window_.place);
-  EXPECT_TRUE(Await(1000, [&] { return IsCovered(); }));
-  QElapsedTimer clock;
-  clock.start();
-  display_.Uncover(cover);
-  EXPECT_TRUE(Await(1000, [&] { return Pixels() == painted; }));
-  return clock.elapsed();
-}
-
-}  // namespace skyloft::program
+}  // namespace skyloft
