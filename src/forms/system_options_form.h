@@ -9,7 +9,10 @@ struct SystemOptionsFormControls : Form {
   SystemOptionsFormControls() : Form("SystemOptionsForm", "Skyloft System Options", Border::Dialog) {
     TabStripOptions.Tabs = {"Email", "Ticker", "Update", "Connection"};
     const char* frames[] = {"Email Options", "Ticker Options", "Update Frequency", "Connection Options"};
-    for (int i = 0; i < OptionsFrame.Size(); ++i) OptionsFrame[i].Caption = frames[i];
+    for (int i = 0; i < OptionsFrame.Size(); ++i) {
+      OptionsFrame[i].Caption = frames[i];
+      OptionsFrame[i].Visible = i == 0;  // they lie on one another
+    }
     Email1Label.Caption = "Email Address";
     Email2Label.Caption = "Re-Type Email Address";
     EmailOptionValue.Caption = "Inform me of Skyloft News and Updates";

@@ -153,6 +153,7 @@ int RunApplication(int argc, char** argv, const AppOptions& options) {
   QApplication::setQuitOnLastWindowClosed(false);
   SetFont();
   SetDotsPerInch(options.dots_per_inch);
+  QApplication::setPalette(SkinPalette());
   application.setStyleSheet(SkinStyle());
   application.setWindowIcon(QIcon("skin:app.png"));
   WatchEnd(application);

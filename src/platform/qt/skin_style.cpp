@@ -38,8 +38,11 @@ QString SkinStyle() {
     QPushButton:disabled { color: #6f7fa3; background: #182a52; border-color: #2f4675; }
     QGroupBox { border: 1px solid #3a568c; border-radius: 6px; margin-top: 8px; }
     QGroupBox::title { subcontrol-origin: margin; left: 10px; color: #9fb6e6; }
+    QLabel:disabled, QCheckBox:disabled, QRadioButton:disabled { color: #6f7fa3; }
     QTabBar::tab { background: #16294f; border: 1px solid #3a568c; padding: 5px 14px; }
     QTabBar::tab:selected { background: #27468c; }
+    QTabBar { qproperty-drawBase: 0; }
+    QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
     QMenu { background: #12234a; border: 1px solid #3a568c; }
     QMenu::item { padding: 5px 26px; }
     QMenu::item:selected { background: #3f6fd0; }
@@ -47,6 +50,12 @@ QString SkinStyle() {
     QMenu::separator { height: 1px; background: #3a568c; margin: 4px 8px; }
     QToolTip { background: #fff8d8; color: #14213d; border: 1px solid #14213d; }
   )";
+}
+
+QPalette SkinPalette() {
+  QPalette palette;
+  palette.setColor(QPalette::Base, QColor(0x0b, 0x14, 0x28));
+  return palette;
 }
 
 const std::vector<FixedCaption>& FixedCaptions() {

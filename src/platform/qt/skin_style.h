@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include <QPalette>
 #include <QRect>
 #include <QString>
 
@@ -12,6 +13,8 @@ namespace skyloft {
 
 // The style sheet of all windows.
 QString SkinStyle();
+// The colours beside it, such as that behind a check mark.
+QPalette SkinPalette();
 
 // Texts that a form shows without a control.
 struct FixedCaption {
