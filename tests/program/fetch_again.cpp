@@ -13,7 +13,7 @@ namespace {
 void FetchAgain() {
   auto* const poll = new QTimer(QCoreApplication::instance());
   QObject::connect(poll, &QTimer::timeout, poll, [poll] {
-    if (!*skyloft::Start.LocalView) return;
+    if (skyloft::Start.LocalView.empty()) return;
     poll->stop();
     skyloft::Raise(skyloft::GetMetaData);
   });
