@@ -107,18 +107,79 @@ TEST_F(ChromeTest, TheProceduresOfAbsentButtonsChangeNothing) {
   EXPECT_TRUE(Doubles.loaded_pictures.empty());
 }
 
+// A button with the files of its pictures; "" where it has none. Of the severe ones the lit takes the place
+// of the pressed.
+struct ButtonCase {
+  const ImageButtonState& state;
+  ImageButton MainFormControls::*button;
+  std::string normal, pressed, disabled;
+};
+using Form = MainFormControls;
+const ButtonCase kPressable[] = {
+    {BackButtonState, &Form::BackButton, "back.gif", "backr.gif", "backd.gif"},
+    {NextButtonState, &Form::NextButton, "next.gif", "nextr.gif", "nextd.gif"},
+    {PlayButtonState, &Form::PlayButton, "play.gif", "playr.gif", "playd.gif"},
+    {StopButtonState, &Form::StopButton, "stop.gif", "stopr.gif", "stopd.gif"},
+    {ExitButtonState, &Form::ExitButton, "exit.gif", "exitr.gif", ""},
+    {HelpButtonState, &Form::HelpButton, "help.gif", "helpr.gif", ""},
+    {MenuButtonState, &Form::MenuButton, "menu.gif", "menur.gif", ""},
+    {LocalButtonState, &Form::LocalButton, "local.gif", "localr.gif", "locald.gif"},
+    {NationalButtonState, &Form::NationalButton, "national.gif", "nationalr.gif", "nationald.gif"},
+    {AreaZoomButtonState, &Form::AreaZoomButton, "zmarea.gif", "zmarear.gif", "zmaread.gif"},
+    {ZoomInButtonState, &Form::ZoomInButton, "zoomin.gif", "zoominr.gif", "zoomind.gif"},
+    {ZoomOutButtonState, &Form::ZoomOutButton, "zoomout.gif", "zoomoutr.gif", "zoomoutd.gif"},
+    {ResetButtonState, &Form::ResetButton, "reset.gif", "resetr.gif", "resetd.gif"},
+    {LegendButtonState, &Form::LegendButton, "legend.gif", "legendr.gif", ""},
+};
+
 TEST_F(ChromeTest, EveryButtonWithAPressedPictureShowsIt) {
-  for (const ImageButtonState* state :
-       {&BackButtonState, &NextButtonState, &PlayButtonState, &StopButtonState, &ExitButtonState,
-        &HelpButtonState, &MenuButtonState, &LocalButtonState, &NationalButtonState, &AreaZoomButtonState,
-        &ZoomInButtonState, &ZoomOutButtonState, &ResetButtonState, &LegendButtonState}) {
-    ImageButton& button = MainForm.*state->button;
+  for (const ButtonCase& each : kPressable) {
+    ImageButton& button = MainForm.*each.button;
     button.Enabled = true;
     button.Down();
-    EXPECT_EQ(button.PicturePath(), Icon(state->pressed)) << button.Name();
+    EXPECT_EQ(button.PicturePath(), Icon(each.pressed)) << button.Name();
     button.Up();
-    EXPECT_EQ(button.PicturePath(), Icon(state->normal)) << button.Name();
+    EXPECT_EQ(button.PicturePath(), Icon(each.normal)) << button.Name();
   }
+}
+
+TEST_F(ChromeTest, EveryStateProcedureSetsItsButtonAndKnowsItsDisabledPicture) {
+  for (const ButtonCase& each : kPressable) {
+    ImageButton& button = MainForm.*each.button;
+    EXPECT_EQ(each.state.disabled, each.disabled) << button.Name();
+    each.state("True", "True", "");
+    each.state("False", "False", Icon(each.normal));
+    EXPECT_FALSE(button.Enabled) << button.Name();
+    EXPECT_FALSE(button.Visible) << button.Name();
+    EXPECT_EQ(button.PicturePath(), Icon(each.normal)) << button.Name();
+  }
+}
+
+TEST_F(ChromeTest, SevereButtonsHaveNoPressedPictureAndTakeTheLitOne) {
+  const ButtonCase severe[] = {
+      {PersonalButtonState, &Form::PersonalAlertButton, "personal.gif", "personals.gif", "personald.gif"},
+      {TornadoButtonState, &Form::TornadoButton, "tornado.gif", "tornados.gif", "tornadod.gif"},
+      {ThunderstormButtonState, &Form::ThunderstormButton, "tstorm.gif", "tstorms.gif", "tstormd.gif"},
+      {FloodButtonState, &Form::FloodButton, "flood.gif", "floods.gif", "floodd.gif"},
+  };
+  for (const ButtonCase& each : severe) {
+    ImageButton& button = MainForm.*each.button;
+    for (const std::string& picture : {each.normal, each.pressed, each.disabled}) {
+      each.state("True", "", Icon(picture));
+      button.Down();
+      EXPECT_EQ(button.PicturePath(), Icon(picture)) << button.Name() << " when pressed";
+      button.Up();
+      EXPECT_EQ(button.PicturePath(), Icon(picture)) << button.Name();
+    }
+  }
+}
+
+TEST_F(ChromeTest, LegendButtonIsSwitchedOffWithoutAPictureOfItsOwn) {
+  const std::string shown = MainForm.LegendButton.PicturePath();
+  LegendButtonState("False", "", "");
+  EXPECT_FALSE(MainForm.LegendButton.Enabled);
+  EXPECT_TRUE(MainForm.LegendButton.Visible);
+  EXPECT_EQ(MainForm.LegendButton.PicturePath(), shown);
 }
 
 TEST_F(ChromeTest, ASecondStartBringsTheMainWindowForwardOrTheWizardOfAFirstRun) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "forms/main_form.h"
 #include "station.h"
 
@@ -78,6 +80,22 @@ TEST_F(WindowStyle, ADisabledEntryBearsItsCommandWithoutBit15AndIsFoundByEither)
   EXPECT_TRUE(form.SystemMenu[1].enabled);
   style.SetSizeable(false);
   EXPECT_FALSE(form.SystemMenu[2].enabled);
+}
+
+TEST_F(WindowStyle, MinAndMaxButtonsAndSizeableSwitchTheirCommands) {
+  const struct {
+    bool (Class1::*set)(bool);
+    int command;
+  } cases[] = {{&Class1::SetMinButton, 61472}, {&Class1::SetMaxButton, 61488}, {&Class1::SetSizeable, 61440}};
+  for (const auto& each : cases) {
+    for (const bool on : {false, true}) {
+      (style.*each.set)(on);
+      const int shown = on ? each.command : each.command & ~0x8000;
+      const auto entry = std::ranges::find(form.SystemMenu, shown, &SystemMenuEntry::command);
+      ASSERT_NE(entry, form.SystemMenu.end()) << each.command << on;
+      EXPECT_EQ(entry->enabled, on) << each.command;
+    }
+  }
 }
 
 TEST_F(WindowStyle, RemovingCloseTakesTheEntryAboveItAlong) {

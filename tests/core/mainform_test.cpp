@@ -291,6 +291,14 @@ TEST_F(StartUp, TheExitButtonAndACloseRequestOnlyHideTheWindow) {
   EXPECT_FALSE(MainForm.Visible);
 }
 
+TEST_F(StartUp, ACloseRequestOfTheSplashOrTheOptionsIsIgnored) {
+  for (Form* form : {static_cast<Form*>(&InitializingForm), static_cast<Form*>(&SystemOptionsForm)}) {
+    form->Visible = true;
+    EXPECT_FALSE(EndsProcess([&] { Fire(form->Unload); })) << form->Name();
+    EXPECT_TRUE(form->Visible) << form->Name();
+  }
+}
+
 TEST_F(StartUp, TheSupportLinkOpensTheUsersMailProgram) {
   InitializingForm.EmailLink.Press();
   ASSERT_EQ(Doubles.links.size(), 1u);

@@ -179,5 +179,51 @@ TEST(Unreachable, StoredTownsStay) {
   EXPECT_EQ(folder.Setting("Settings/LocationIndexMax"), "4");
 }
 
+TEST(DotsPerInch, OtherThan96ShowOnlyTheWarningWhoseOkEnds) {
+  const Folder folder;
+  SetUpTowns(folder);
+  const QByteArray store = ReadBytes(folder.Path("root/registry.ini"));
+  const QByteArray data = ReadBytes(folder.DataFile());
+  const RunningServer server({"--port", "0", "--log", folder.Path("log").toStdString()});
+  const Ending ending =
+      RunInRoot(folder,
+                HostsOf(server) << "--dpi"
+                                << "120",
+                "snapshot " + folder.Path("s").toUtf8() + "\nclick SystemFontForm.OKButton\nno command\n");
+  EXPECT_EQ(ending.code, 0) << ending.errors;
+  EXPECT_TRUE(ReadLog(folder.Path("log")).empty());
+  const Snapshot shown(folder.Path("s"));
+  for (const char* form : {"MainForm", "InitializingForm", "TickerForm", "SetupWizardForm"}) {
+    EXPECT_FALSE(shown.Flag(form, "visible")) << form;
+  }
+  EXPECT_TRUE(shown.Flag("SystemFontForm", "visible"));
+  EXPECT_EQ(shown.Text("SystemFontForm", "caption"), "Skyloft System Check");
+  EXPECT_EQ(shown.Text("SystemFontForm.Heading", "caption"),
+            "Incompatible Windows Display DPI (dots per inch)");
+  EXPECT_EQ(
+      shown.Text("SystemFontForm.Message", "caption"),
+      "Skyloft has detected that your Windows Display is NOT set to 96 DPI. The Skyloft software will NOT "
+      "run "
+      "properly with your current display configuration. Follow the instructions below to adapt your display "
+      "to the Skyloft requirements. Support for other DPI configurations is coming soon!");
+  const char* const steps[] = {"Step1: Click on the DISPLAY icon located in the Windows Control Panel",
+                               "Step2: Click on the SETTINGS tab",
+                               "Step3: Click on the ADVANCED button",
+                               "Step4: Click on the GENERAL tab",
+                               "Step5: Change FONT SIZE to SMALL or DPI SETTING to 96 DPI",
+                               "Step6: Click on OK and folllow the Windows instructions"};
+  for (int i = 0; i < 6; ++i) {
+    EXPECT_EQ(shown.Text("SystemFontForm.Step" + QString::number(i + 1), "caption"), steps[i]);
+  }
+  EXPECT_EQ(ReadBytes(folder.Path("root/registry.ini")), store);
+  EXPECT_EQ(ReadBytes(folder.DataFile()), data);
+}
+
+TEST(DotsPerInch, Of96AreAUsualStart) {
+  const Folder folder;
+  ASSERT_EQ(RunInRoot(folder, {"--demo", "--dpi", "96", "--snapshot", folder.Path("s")}).code, 0);
+  EXPECT_TRUE(Snapshot(folder.Path("s")).Flag("MainForm", "visible"));
+}
+
 }  // namespace
 }  // namespace skyloft::program

@@ -25,9 +25,11 @@ TEST_F(Wizard, CancellingTheFirstSetupEndsTheProgramWithoutSaving) {
 
 TEST_F(Wizard, CancellingALaterOneOnlyHidesIt) {
   SetUpLocations(1);
-  AddLocation(1);
-  EXPECT_FALSE(EndsProcess([] { SetupWizardForm.CancelButton.Press(); }));
-  EXPECT_FALSE(SetupWizardForm.Visible);
+  for (auto* act : {&SetupWizardForm.CancelButton.Click, &SetupWizardForm.Unload}) {
+    AddLocation(1);
+    EXPECT_FALSE(EndsProcess([&] { (*act)(); }));
+    EXPECT_FALSE(SetupWizardForm.Visible);
+  }
 }
 
 }  // namespace

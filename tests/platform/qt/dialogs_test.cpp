@@ -2,11 +2,45 @@
 
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QMessageBox>
 #include <QTimer>
 
 namespace skyloft {
 namespace {
+
+struct BoxCase {
+  BoxKind kind;
+  QMessageBox::Icon icon;
+  QMessageBox::StandardButtons buttons;
+  BoxAnswer closed;
+};
+
+TEST(Boxes, HaveTheIconTheButtonsAndTheAnswerOfACloseOfTheirKind) {
+  int argc = 0;
+  const QApplication application(argc, nullptr);
+  const BoxCase cases[] = {
+      {BoxKind::Error, QMessageBox::Critical, QMessageBox::Ok, BoxAnswer::Ok},
+      {BoxKind::Question, QMessageBox::Question, QMessageBox::Yes | QMessageBox::No, BoxAnswer::No},
+      {BoxKind::Update, QMessageBox::Information, QMessageBox::Ok | QMessageBox::Cancel, BoxAnswer::Cancel},
+  };
+  int seen = 0;
+  for (const BoxCase& each : cases) {
+    QTimer::singleShot(50, [&] {
+      auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      ASSERT_NE(box, nullptr);
+      ++seen;
+      EXPECT_EQ(box->icon(), each.icon);
+      EXPECT_EQ(box->windowTitle(), "Skyloft");
+      EXPECT_EQ(box->text(), "a <b>text</b>");
+      EXPECT_EQ(box->textFormat(), Qt::PlainText);
+      EXPECT_EQ(box->standardButtons(), each.buttons);
+      box->reject();
+    });
+    EXPECT_EQ(ShowBox(each.kind, "a <b>text</b>"), each.closed);
+  }
+  EXPECT_EQ(seen, 3);
+}
 
 class ScriptedBoxes : public ::testing::Test {
  protected:

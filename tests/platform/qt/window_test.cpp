@@ -176,6 +176,15 @@ TEST_F(WindowOnADesktop, TopMostThatEndsWithTheFocusLeavesTheFocusWhereItWent) {
   other.Visible = false;
 }
 
+TEST_F(WindowOnADesktop, CloseRequestIsTheFormsMatterAlone) {
+  int asked = 0;
+  form_.Unload = [&] { ++asked; };
+  EXPECT_FALSE(WindowOf(form_).close());
+  EXPECT_EQ(asked, 1);
+  Pass(50);
+  EXPECT_TRUE(WindowOf(form_).isVisible());
+}
+
 class DragButton : public WindowOnADesktop, public testing::WithParamInterface<std::uint8_t> {};
 
 TEST_P(DragButton, MovesTheWindowByItsBody) {
