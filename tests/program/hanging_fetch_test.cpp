@@ -23,9 +23,13 @@ class WindowDuringAHangingFetch : public testing::Test {
     ASSERT_TRUE(display_->Up()) << "Xvfb must be installed";
     server_ = std::make_unique<feed::RunningServer>(std::vector<std::string>{
         "--port", "0", "--log", folder_.Path("log").toStdString(), "--fault", "/forecast.asp?d=meta=hang@2"});
+    // The refresh asks for the stamps a second time after 15 minutes.
+    folder_.Write("script", "async tick MainForm.UpdateTimer 30\n");
     run_ = std::make_unique<ProgramRun>(
-        folder_, InRoot(folder_, {"--hosts", "127.0.0.1:" + QString::number(server_->Port())}),
-        QStringList{"QT_QPA_PLATFORM=xcb", "DISPLAY=" + display_->Name()}, nullptr, SKYLOFT_FETCH_AGAIN);
+        folder_,
+        InRoot(folder_, {"--hosts", "127.0.0.1:" + QString::number(server_->Port()), "--script",
+                         folder_.Path("script")}),
+        QStringList{"QT_QPA_PLATFORM=xcb", "DISPLAY=" + display_->Name()});
     ASSERT_TRUE(Await(30000, [&] {
       return Only(ReadLog(folder_.Path("log")), "/forecast.asp", "d=meta").size() == 2;
     })) << "the fetch that hangs";

@@ -84,12 +84,12 @@ bool Await(int milliseconds, const std::function<bool()>& reached) {
 }
 
 ProgramRun::ProgramRun(const Folder& folder, const QStringList& options, const QStringList& environment,
-                       const std::function<void()>& limit, const char* program) {
+                       const std::function<void()>& limit) {
   if (limit) process_.setChildProcessModifier(limit);
   process_.setProcessEnvironment(EnvironmentOf(folder, environment));
   process_.setWorkingDirectory(folder.Path("cwd"));
   process_.setStandardInputFile(QProcess::nullDevice());
-  process_.start(program, options);
+  process_.start(SKYLOFT_PROGRAM, options);
   EXPECT_TRUE(process_.waitForStarted(kPatience));
 }
 

@@ -53,11 +53,10 @@ struct Ending {
 
 // One run of the program in a test's folders, under the environment and the options given and no others.
 // `limit`, if any, is called in the child before it becomes the program; it may make system calls only.
-// `program` is another build of it.
 class ProgramRun {
  public:
   ProgramRun(const Folder& folder, const QStringList& options, const QStringList& environment = {},
-             const std::function<void()>& limit = {}, const char* program = SKYLOFT_PROGRAM);
+             const std::function<void()>& limit = {});
   ~ProgramRun();
   ProgramRun(const ProgramRun&) = delete;
   ProgramRun& operator=(const ProgramRun&) = delete;
