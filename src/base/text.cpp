@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstring>
 
 namespace skyloft {
 namespace {
@@ -66,7 +67,17 @@ void AppendUtf8(std::string& utf8, char32_t character) {
 
 }  // namespace
 
+bool IsAscii(std::string_view text) {
+  std::uint64_t word = 0;  // eight bytes at a time
+  for (; text.size() >= sizeof word; text.remove_prefix(sizeof word)) {
+    std::memcpy(&word, text.data(), sizeof word);
+    if ((word & 0x8080808080808080u) != 0) return false;
+  }
+  return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
 std::string ToUtf8(std::string_view text) {
+  if (IsAscii(text)) return std::string(text);
   std::string utf8;
   utf8.reserve(text.size());
   for (const char c : text) AppendUtf8(utf8, CharacterOf(static_cast<unsigned char>(c)));
@@ -74,6 +85,7 @@ std::string ToUtf8(std::string_view text) {
 }
 
 std::string FromUtf8(std::string_view utf8) {
+  if (IsAscii(utf8)) return std::string(utf8);
   std::string text;
   text.reserve(utf8.size());
   while (!utf8.empty()) text += ByteOf(TakeCharacter(utf8));

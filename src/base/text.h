@@ -11,6 +11,8 @@ std::string ToUtf8(std::string_view text);
 // UTF-8 to windows-1252; '?' for every character without a byte and for every malformed sequence.
 std::string FromUtf8(std::string_view utf8);
 
+// Whether a text has ASCII alone, which is the same in both.
+bool IsAscii(std::string_view text);
 // Whether a text is well-formed UTF-8.
 bool IsUtf8(std::string_view text);
 

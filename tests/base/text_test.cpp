@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 namespace skyloft {
 namespace {
 
@@ -46,6 +48,19 @@ TEST(Text, TellsWellFormedUtf8FromOtherBytes) {
     EXPECT_TRUE(IsUtf8(text)) << text;
   for (const char* text : {"caf\xE9", "\x80", "\xC3", "\xE2\x82", "\xC3\x28"})
     EXPECT_FALSE(IsUtf8(text)) << text;
+}
+
+TEST(Text, OneByteBeyondAsciiIsFoundAtEveryPlace) {
+  EXPECT_TRUE(IsAscii(""));
+  for (size_t size = 1; size < 20; ++size) {
+    std::string text(size, '\x7F');
+    EXPECT_TRUE(IsAscii(text)) << size;
+    for (size_t i = 0; i < size; ++i) {
+      text[i] = '\x80';
+      EXPECT_FALSE(IsAscii(text)) << i << " of " << size;
+      text[i] = '\x7F';
+    }
+  }
 }
 
 }  // namespace
