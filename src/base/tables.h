@@ -9,11 +9,13 @@
 
 namespace skyloft {
 
+[[noreturn]] inline void RaiseIndex(long long index, std::size_t size) {
+  throw RuntimeError("index " + std::to_string(index) + " outside 0 to " + std::to_string(size) + " - 1");
+}
+
 // Raises unless 0 <= index < size; returns the index for use in an array.
 inline std::size_t CheckedIndex(long long index, std::size_t size) {
-  if (index < 0 || static_cast<std::size_t>(index) >= size) {
-    throw RuntimeError("index " + std::to_string(index) + " outside 0 to " + std::to_string(size) + " - 1");
-  }
+  if (index < 0 || static_cast<std::size_t>(index) >= size) RaiseIndex(index, size);
   return static_cast<std::size_t>(index);
 }
 
