@@ -43,7 +43,7 @@ void ReadAll(const XmlDocument& reply, const char* tag) {
 }  // namespace skyloft
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
-  const skyloft::XmlDocument reply(std::string_view(reinterpret_cast<const char*>(bytes), size));
+  const skyloft::XmlDocument reply(std::string(reinterpret_cast<const char*>(bytes), size));
   for (const char* tag : {"City", "Lt", "Wd", "r", "absent"}) skyloft::ReadAll(reply, tag);
   return 0;
 }

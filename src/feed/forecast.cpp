@@ -69,9 +69,13 @@ void LoadTable(const char* kind, const Tags& tags, int first, int last, LocalTab
   QueryServer(HostTable.forecastserver + "forecast.asp?" + ZipCodeSelection(first, last) + kind,
               [&](const XmlDocument& reply) { rows = ReadTags(reply, tags, last - first, cells); });
   if (rows <= 0) throw RuntimeError("no forecast came");
+  std::vector<const QueryGrid*> columns;
+  for (const auto& row : tags) columns.push_back(&cells[row.tag]);
   for (int slot = first; slot <= last; ++slot) {
     for (int item = 0; item < rows; ++item) {
-      for (const auto& row : tags) table[slot][item].*(row.field) = cells[row.tag][slot - first][item];
+      auto& fields = table[slot][item];
+      auto column = columns.begin();
+      for (const auto& row : tags) fields.*(row.field) = (**column++)[slot - first][item];
     }
   }
 }

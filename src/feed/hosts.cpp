@@ -63,7 +63,7 @@ void ReadHostTable(int mode, const std::string& address, std::string& server_ver
     if (!MainForm.Http.Idle()) return;
     std::string text;
     GetXML(address, text);
-    const XmlDocument document(text);
+    const XmlDocument document(std::move(text));
     const std::pair<const char*, std::string*> tags[] = {
         {"version", &server_version},
         {"fileserver", &HostTable.fileserver},

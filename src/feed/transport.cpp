@@ -51,7 +51,7 @@ void QueryServer(const std::string& url, const std::function<void(const XmlDocum
   if (!MainForm.Http.Idle()) return;
   std::string text;
   GetData(url, text);
-  read(XmlDocument(text));
+  read(XmlDocument(std::move(text)));
 }
 
 void ConnectTransport() {

@@ -1,7 +1,5 @@
 #include "feed/xml_readers.h"
 
-#include <functional>
-
 #include "base/values.h"
 #include "settings/settings.h"
 #include "weather/sky.h"
@@ -13,14 +11,16 @@ int ItemsPerLocation(int count, int locations) {
   return static_cast<int>(DivideWhole(count + 1, locations + 1)) - 1;
 }
 
+template <class Convert>
 void ReadGrid(const XmlDocument& document, std::string_view tag, QueryGrid& grid, int locations, int& count,
-              int& items, const std::function<std::string(std::string)>& convert) {
+              int& items, Convert convert) {
   Guarded([&] {
-    count = document.Count(tag) - 1;
+    std::vector<std::string> texts = document.Texts(tag);
+    count = static_cast<int>(texts.size()) - 1;
     items = ItemsPerLocation(count, locations);
-    int match = 0;
+    auto text = texts.begin();
     for (int location = 0; location <= locations; ++location) {
-      for (int item = 0; item <= items; ++item) grid[location][item] = convert(document.Text(tag, match++));
+      for (int item = 0; item <= items; ++item) grid[location][item] = convert(*text++);
     }
   });
 }
@@ -72,7 +72,7 @@ void ReadXmlOddList(const XmlDocument& document, std::string_view tag, TextList&
 
 void ReadXmlGrid(const XmlDocument& document, std::string_view tag, QueryGrid& grid, int locations,
                  int& count, int& items) {
-  ReadGrid(document, tag, grid, locations, count, items, [](std::string text) { return text; });
+  ReadGrid(document, tag, grid, locations, count, items, [](std::string& text) { return std::move(text); });
 }
 
 void ReadXmlIconGrid(const XmlDocument& document, std::string_view tag, QueryGrid& grid, int locations,

@@ -139,21 +139,23 @@ TEST_P(Documents, Elements) {
 
 INSTANTIATE_TEST_SUITE_P(
     Xml, Documents,
-    ::testing::Values(DocumentCase{"Nothing", "", 0, ""}, DocumentCase{"NotXml", "hello <a>1</a", 0, ""},
-                      DocumentCase{"CutOffIsEmpty", "<r><a>1</a><a>2</a>", 0, ""},
-                      DocumentCase{"BlanksAreKept", "<r><a>  1 </a></r>", 1, "  1 "},
-                      DocumentCase{"OnlyBlanks", "<r><a>   </a></r>", 1, "   "},
-                      DocumentCase{"TextOfDescendants", "<r><a>x<b>y</b>z</a></r>", 1, "xyz"},
-                      DocumentCase{"Entities", "<r><a>&lt;&amp;&#65;</a></r>", 1, "<&A"},
-                      DocumentCase{"Section", "<r><a><![CDATA[<b>]]></a></r>", 1, "<b>"},
-                      DocumentCase{"CaseCounts", "<r><A>1</A></r>", 0, ""},
-                      DocumentCase{"Utf8BecomesOneByte", "<r><a>\xC3\xA9\xE2\x82\xAC</a></r>", 1, "\xE9\x80"},
-                      DocumentCase{"Unknown", "<r><a>\xE4\xB8\xAD</a></r>", 1, "?"},
-                      DocumentCase{"Declared",
-                                   "<?xml version='1.0' encoding='windows-1252'?><r><a>\xE9\x80</a></r>", 1,
-                                   "\xE9\x80"},
-                      DocumentCase{"UndeclaredAndNotUtf8", "<r><a>caf\xE9</a></r>", 1, "caf\xE9"},
-                      DocumentCase{"Empty", "<r><a/></r>", 1, ""}),
+    ::testing::Values(
+        DocumentCase{"Nothing", "", 0, ""}, DocumentCase{"NotXml", "hello <a>1</a", 0, ""},
+        DocumentCase{"CutOffIsEmpty", "<r><a>1</a><a>2</a>", 0, ""},
+        DocumentCase{"BlanksAreKept", "<r><a>  1 </a></r>", 1, "  1 "},
+        DocumentCase{"OnlyBlanks", "<r><a>   </a></r>", 1, "   "},
+        DocumentCase{"TextOfDescendants", "<r><a>x<b>y</b>z</a></r>", 1, "xyz"},
+        DocumentCase{"BlanksNextToElementsAreLayout", "<r><a> <b>x </b>\n<b> y</b> z</a></r>", 1, "x  y z"},
+        DocumentCase{"TextBehindASection", "<r><a><![CDATA[x]]> <b/>y</a></r>", 1, "xy"},
+        DocumentCase{"Entities", "<r><a>&lt;&amp;&#65;</a></r>", 1, "<&A"},
+        DocumentCase{"Section", "<r><a><![CDATA[<b>]]></a></r>", 1, "<b>"},
+        DocumentCase{"CaseCounts", "<r><A>1</A></r>", 0, ""},
+        DocumentCase{"Utf8BecomesOneByte", "<r><a>\xC3\xA9\xE2\x82\xAC</a></r>", 1, "\xE9\x80"},
+        DocumentCase{"Unknown", "<r><a>\xE4\xB8\xAD</a></r>", 1, "?"},
+        DocumentCase{"Declared", "<?xml version='1.0' encoding='windows-1252'?><r><a>\xE9\x80</a></r>", 1,
+                     "\xE9\x80"},
+        DocumentCase{"UndeclaredAndNotUtf8", "<r><a>caf\xE9</a></r>", 1, "caf\xE9"},
+        DocumentCase{"Empty", "<r><a/></r>", 1, ""}),
     [](const auto& each) { return each.param.name; });
 
 TEST(Xml, ADeepDocumentIsReadWithoutRecursion) {
