@@ -86,8 +86,9 @@ void BuildPage(benchmark::State& state, const Page& page) {
 
 HtmlServices Services() {
   return {.local_path = [](const QString& path) { return PathForReading(path.toStdString()).value_or(""); },
-          .fetch = [](const QString&,
-                      const auto& done) { done("body { font-family: Tahoma; font-size: 11px; }"); },
+          .own_sheet =
+              [](const QString&) { return QByteArray("body { font-family: Tahoma; font-size: 11px; }"); },
+          .fetch = {},
           .open_link = {},
           .play_sound = {}};
 }

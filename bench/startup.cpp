@@ -109,9 +109,13 @@ bool MeasureStarts(const Kind& kind, const XDisplay& display, int starts) {
     for (const Figures& figures : all) values.push_back(figures.*figure);
     return Median(values);
   };
-  std::printf("| %s | %.0f | %.0f | %.0f | %.1f | %.1f |\n", kind.name, median(&Figures::splash),
-              median(&Figures::window_mapped), median(&Figures::window_painted),
-              median(&Figures::proportional), median(&Figures::peak));
+  const auto print_moment = [](double moment) {
+    moment > 0 ? std::printf(" %.0f |", moment) : std::printf(" - |");
+  };
+  std::printf("| %s |", kind.name);
+  for (auto figure : {&Figures::splash, &Figures::window_mapped, &Figures::window_painted})
+    print_moment(median(figure));
+  std::printf(" %.1f | %.1f |\n", median(&Figures::proportional), median(&Figures::peak));
   std::fflush(stdout);
   return true;
 }

@@ -21,11 +21,9 @@ QString LocalFile(const QString& path) {
   return file ? *file : QString();
 }
 
+QByteArray OwnSheet(const QString& url) { return url == kStyleSheet ? QByteArray(kSharedStyle) : QByteArray(); }
+
 void FetchForPage(const QString& url, const std::function<void(QByteArray)>& done) {
-  if (url == kStyleSheet) {
-    done(kSharedStyle);
-    return;
-  }
   FetchLater(FromQt(url), [done](const std::string& reply) { done(QByteArray::fromStdString(reply)); });
 }
 
@@ -43,6 +41,7 @@ void FetchPage(const std::string& address, const std::function<void(std::string)
 
 HtmlServices PageServices() {
   return {.local_path = LocalFile,
+          .own_sheet = OwnSheet,
           .fetch = FetchForPage,
           .open_link = [](const QString& url) { OpenLink(FromQt(url)); },
           .play_sound = {}};

@@ -76,6 +76,8 @@ QImage HtmlLoader::Picture(const QString& address) {
 }
 
 QByteArray HtmlLoader::StyleSheet(const QString& address) {
+  if (const QByteArray own = services_.own_sheet ? services_.own_sheet(address) : ""; !own.isEmpty())
+    return own;
   return IsRemote(address) ? AskFor(address, true).bytes : QByteArray();
 }
 

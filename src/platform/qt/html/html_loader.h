@@ -32,7 +32,7 @@ class HtmlLoader : public std::enable_shared_from_this<HtmlLoader> {
   // files are read again for a later document when they have changed. Remote ones are asked for by the first
   // call.
   QImage Picture(const QString& address);
-  // The same for the text of a remote style sheet.
+  // The same for the text of a style sheet, the program's own or a remote one.
   QByteArray StyleSheet(const QString& address);
 
   // A new document: nothing that was asked for before matters any more.

@@ -143,6 +143,18 @@ TEST_F(HtmlViewTest, RemoteStyleSheetAppliesWhenItComes) {
   EXPECT_EQ(asked_.size(), 1u);  // not asked for again
 }
 
+TEST_F(HtmlViewTest, TheProgramsOwnStyleSheetAppliesAtOnceAndIsNotFetched) {
+  services_.own_sheet = [](const QString& url) {
+    return url == "http://a.example/own.css" ? QByteArray("body { background-color: #00ff00 }")
+                                             : QByteArray();
+  };
+  const auto view = MakeView("<link rel='stylesheet' href='http://a.example/own.css'><body><p>x");
+  EXPECT_TRUE(view->Idle());
+  EXPECT_EQ(Grab(*view).pixelColor(100, 90), QColor(0, 255, 0));
+  RunEvents();
+  EXPECT_TRUE(asked_.empty());
+}
+
 TEST_F(HtmlViewTest, ViewRemovedDuringAFetchDoesNoHarm) {
   auto view = MakeView("<img src='http://a.example/x.png'><a href=x>x</a>");
   RunEvents();
