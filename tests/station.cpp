@@ -2,6 +2,7 @@
 
 #include "alerts/bulletins.h"
 #include "alerts/personal_alerts.h"
+#include "browser/images.h"
 #include "browser/selection.h"
 #include "core/chrome.h"
 #include "core/mainform.h"
@@ -47,6 +48,7 @@ Station::Station() {
   Almanac = {};
   LocationProfile = {};
   FrameUrl = {};
+  FramePath = {};
   Bulletins = {};
   PersonalAlertsState = {};
   Start = {};
@@ -67,6 +69,8 @@ void Station::SetUpLocations(int count) {
   for (int i = 0; i < count; ++i) {
     LocationProfile[ProfileRow::ZipCode][i] = std::to_string(10000 + i);
     LocationProfile[ProfileRow::Title][i] = "Town " + std::to_string(i);
+    LocationProfile[ProfileRow::NEXRADServer][i] = "radar.skyloft.example";
+    LocationProfile[ProfileRow::NEXRADLocation][i] = "KTW" + std::to_string(i);
     MainForm.LocationSelection.AddItem("Town " + std::to_string(i));
   }
   Settings.Location = "0";

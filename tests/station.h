@@ -14,8 +14,8 @@ class Station : public ::testing::Test {
   // Every table, form and double fresh, the controls attached, the host table read.
   Station();
 
-  // `count` locations with the zip codes 10000, 10001, ... and the titles "Town 0", "Town 1", ...; the first
-  // one selected.
+  // `count` locations with the zip codes 10000, 10001, ..., the titles "Town 0", "Town 1", ... and the radar
+  // sites KTW0, KTW1, ...; the first one selected.
   static void SetUpLocations(int count);
 
   // The same forecast for all of them: 66 hours from `first_gmt`, and 25 half days that end at 00 and 12 GMT,

@@ -1,7 +1,86 @@
 #include "browser/radar_frames.h"
 
-namespace skyloft {
+#include "base/dates.h"
+#include "base/guard.h"
+#include "base/values.h"
+#include "browser/buttons.h"
+#include "browser/player.h"
+#include "browser/zoom.h"
+#include "feed/radar.h"
+#include "feed/transport.h"
+#include "forms/main_form.h"
+#include "platform/files.h"
+#include "platform/pictures.h"
+#include "settings/location_profiles.h"
+#include "settings/settings.h"
+#include "weather/time.h"
 
-void NexradLoad(const std::string&, const std::string&) {}
+namespace skyloft {
+namespace {
+
+std::string TempFolder() { return Settings.InstallPath + "\\temp"; }
+
+// Hours from GMT of the selected location, daylight time added.
+long long LocationOffset() {
+  const auto& profile = LocationProfile;
+  const int slot = SelectedLocation();
+  return RoundHalfEven(LenientNumber(profile[ProfileRow::TimeZone][slot]) +
+                       LenientNumber(profile[ProfileRow::Dst][slot]));
+}
+
+std::string CharactersOf(const std::string& text, int first, int count) {
+  return std::string(LeftText(MiddleText(text, first), count));
+}
+
+}  // namespace
+
+void NexradLoad(const std::string& prefix, const std::string& site) {
+  Guarded([&] {
+    const Date now = PresentGMT();
+    const std::string zone = LocationZone(SelectedLocation());
+    FileList& list = MainForm.FileList;
+    list.Path = TempFolder();
+    list.Files = ListFiles(list.Path);
+    ListControl& times = MainForm.TimeSelection;
+    times.Clear();
+    for (const std::string& file : list.Files) {
+      if (!IsFrameOf(file, prefix, site)) continue;
+      const Date time = FrameTime(file);
+      if (DateDiff(DateUnit::Minutes, time, now) > kOldestFrameMinutes) {
+        DeleteFile(list.Path + "\\" + file);
+        continue;
+      }
+      const Date local = DateAdd(DateUnit::Hours, LocationOffset(), time);
+      times.AddItem(Format(local, "hh:mm AM/PM") + " " + zone + " " + Format(local, "mm/dd/yy"));
+    }
+    BackNextPlayStopState();
+    ShowRadarButtons();
+    if (times.Count() > 0) times.Select(times.Count() - 1);
+  });
+}
+
+void NexradDisplay(const std::string& prefix, const std::string& site) {
+  Guarded([&] {
+    const std::string entry = MainForm.TimeSelection.Text();
+    const Date local = ReadDate(CharactersOf(entry, 1, 8) + " " + CharactersOf(entry, 14, 8));
+    const std::string stamp = Format(DateAdd(DateUnit::Hours, -LocationOffset(), local), "mmddyyyyhhnn");
+    LoadPicture(MainForm.Display1, TempFolder() + "\\" + prefix + "." + site + "." + stamp + ".png");
+    if (MainForm.AreaZoomButton.Enabled) NEXRADZoom();
+  });
+}
+
+void GetLatestImage(const std::string& url) {
+  Guarded([&] {
+    std::string path = TempFolder() + "\\latest.gif";
+    GetImage(url, path);
+    ConvertRadarImage(path);
+    MainForm.TimeSelection.Clear();
+    MainForm.TimeSelection.AddItem("Latest");
+    MainForm.TimeSelection.Select(0);
+    ShowLatestImage();
+  });
+}
+
+void ShowLatestImage() { LoadPicture(MainForm.Display1, TempFolder() + "\\latest.png"); }
 
 }  // namespace skyloft

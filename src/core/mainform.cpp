@@ -7,8 +7,11 @@
 #include "alerts/personal_alerts.h"
 #include "base/guard.h"
 #include "base/values.h"
+#include "browser/images.h"
 #include "browser/player.h"
+#include "browser/point_click.h"
 #include "browser/selection.h"
+#include "browser/zoom.h"
 #include "core/chrome.h"
 #include "core/refresh.h"
 #include "core/tray.h"
@@ -142,6 +145,9 @@ void ConnectForms() {
   ConnectHosts();
   ConnectSelection();
   ConnectPlayer();
+  ConnectImages();
+  ConnectZoom();
+  ConnectPointClick();
   ConnectRefresh();
   ConnectTicker();
   ConnectTray();

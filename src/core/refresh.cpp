@@ -22,7 +22,6 @@
 #include "platform/clock.h"
 #include "platform/files.h"
 #include "platform/screen.h"
-#include "settings/location_profiles.h"
 #include "settings/settings.h"
 #include "ticker/messages.h"
 #include "ticker/ticker.h"
@@ -104,7 +103,7 @@ void RefreshMessages() {
 void RefreshRadar() {
   if (!Due(Refresh.NexradTimer, SecondsOf(SystemOptionsForm.NexradIndexMax))) return;
   GetNexradData(0);
-  const std::string site = LowerCase(LocationProfile[ProfileRow::NEXRADLocation][SelectedLocation()]);
+  const std::string site = RadarSite(SelectedLocation());
   ThumbnailDisplay("nexr", site);
   if (MainForm.CategorySelection.Text() != "NEXRAD Radar") return;
   NexradLoad("nexr", site);

@@ -1,5 +1,7 @@
 #include "feed/catalogues.h"
 
+#include <cmath>
+
 #include "base/dates.h"
 #include "base/values.h"
 #include "feed/hosts.h"
@@ -45,6 +47,48 @@ ProductRecords ReadProducts(const std::string& text, const ProductRecords& forme
   return records;
 }
 
+SectorRecords ReadSectors(const std::string& text) {
+  const XmlDocument document(text);
+  SectorRecords records;
+  int count = -1;
+  ReadXmlList(document, "sector", records.sector, records.last);
+  const std::pair<const char*, TextList*> edges[] = {
+      {"xmin", &records.xmin}, {"xmax", &records.xmax}, {"ymin", &records.ymin}, {"ymax", &records.ymax}};
+  for (const auto& [tag, list] : edges) ReadXmlList(document, tag, *list, count);
+  return records;
+}
+
+struct Edges {
+  double xmin, xmax, ymin, ymax;
+};
+Edges EdgesOf(int sector) {
+  const SectorRecords& records = Catalogues.SectorRecord;
+  return {LenientNumber(records.xmin[sector]), LenientNumber(records.xmax[sector]),
+          LenientNumber(records.ymin[sector]), LenientNumber(records.ymax[sector])};
+}
+
+// The sector of a family nearest to a point that lies in it; 0 if there is none. Notes each better one as the
+// sector in use.
+int NearestSector(std::string_view family, double x, double y) {
+  CatalogueState& state = Catalogues;
+  double best = 1000000000;
+  int chosen = 0;
+  for (int i = 0; i <= state.SectorRecord.last; ++i) {
+    const std::string& name = state.SectorRecord.sector[i];
+    if (LeftText(name, 1) != family) continue;
+    const Edges edges = EdgesOf(i);
+    if (x < edges.xmin || x > edges.xmax || y < edges.ymin || y > edges.ymax) continue;
+    const double distance =
+        std::hypot(x - (edges.xmin + edges.xmax) * 0.5, y - (edges.ymin + edges.ymax) * 0.5);
+    if (distance >= best) continue;
+    best = distance;
+    state.SectorIDPrevious = state.SectorID;
+    state.SectorID = name;
+    chosen = i;
+  }
+  return chosen;
+}
+
 // The place of a product in the catalogue, from 1, with three digits.
 std::string ChannelNumber(int place) {
   const std::string digits = std::to_string(place);
@@ -56,6 +100,7 @@ std::string ChannelNumber(int place) {
 void GetSectorData() {
   Guarded([] {
     GetData(HostTable.productserver + "sectors." + RunHour() + "z.sys", Catalogues.SectorCatalogue);
+    Catalogues.SectorRecord = ReadSectors(Catalogues.SectorCatalogue);
   });
 }
 
@@ -102,6 +147,27 @@ void GetAvailableProducts(int category) {
       Catalogues.ProductMap[k++] = i;
     }
     MainForm.ProductSelection.Select(0);
+  });
+}
+
+void GetSectorID(int, double x, double y) {
+  Guarded([&] {
+    CatalogueState& state = Catalogues;
+    const std::string product(MiddleText(MainForm.ProductSelection.Text(), 5));
+    if (product == "Hourly Weather Planner" || product == "Reflectivity") return;
+    const std::string& family =
+        state.ProductRecord.id[state.ProductMap[MainForm.ProductSelection.ListIndex()]];
+    int chosen = 0;
+    if (MainForm.NationalButton.Enabled) {
+      chosen = NearestSector(family, x, y);
+    } else {
+      state.SectorID = "200";
+    }
+    const Edges edges = EdgesOf(chosen);
+    state.SectorXMin = edges.xmin;
+    state.SectorXMax = edges.xmax;
+    state.SectorYMin = edges.ymin;
+    state.SectorYMax = edges.ymax;
   });
 }
 

@@ -26,15 +26,27 @@ struct ProductRecords {
   std::string model, modelx, height, width;  // of the whole file; "" before the first
 };
 
+// The rectangles of the map for which there are pictures.
+struct SectorRecords {
+  int last = -1;                                              // number of sectors, less one
+  TextList sector{kCatalogueRecords};                         // name; its first character is the family
+  TextList xmin{kCatalogueRecords}, xmax{kCatalogueRecords};  // western and eastern edge, metres on the map
+  TextList ymin{kCatalogueRecords}, ymax{kCatalogueRecords};  // southern and northern edge
+};
+
 struct CatalogueState {
   std::string ProductCatalogue, SectorCatalogue;  // whole texts as fetched; "" before the first
   ProductRecords ProductRecord;                   // what ProductCatalogue tells
+  SectorRecords SectorRecord;                     // what SectorCatalogue tells
   std::string ModelRun;                           // newest run: "00z", "06z", "12z" or "18z"
   std::string ModelRunExtended;                   // the run of the frames beyond hour 66
   std::string ImageHeight, ImageWidth;            // of a product picture, pixels
   // Places in CategorySelection of the three categories that the program knows by name; 0 where there is
   // none.
   int ShareCategoryIndex = 0, SupportCategoryIndex = 0, NewsletterCategoryIndex = 0;
+  std::string SectorID, SectorIDPrevious;  // name of the sector in use, and the one before
+  // Its edges, metres on the map.
+  double SectorXMin = 0, SectorXMax = 0, SectorYMin = 0, SectorYMax = 0;
   Table<int, kCatalogueRecords> ProductMap;  // the product shown as each entry of ProductSelection
 };
 extern CatalogueState Catalogues;
@@ -51,5 +63,12 @@ void GetAvailableCategories();
 // product's place in the catalogue, from 1; selects the first. A catalogue with a hole or with too many
 // products leaves the list as far as it got, with nothing selected.
 void GetAvailableProducts(int category);
+
+// Picks the sector for a point of the map: of the selected product's family, the rectangle around the point
+// whose centre lies nearest; of equals the first. `product` is not read. While the national view is on it is
+// "200", with the edges of the first sector of all. A point in no rectangle keeps the former name but takes
+// those edges too. Radar keeps its sector. All of this is meant; so is that SectorIDPrevious may be a sector
+// that was only passed over.
+void GetSectorID(int product, double x, double y);
 
 }  // namespace skyloft

@@ -1,7 +1,104 @@
 #include "feed/radar.h"
 
-namespace skyloft {
+#include <vector>
 
-void GetNexradData(int) {}
+#include "base/guard.h"
+#include "base/values.h"
+#include "feed/transport.h"
+#include "forms/main_form.h"
+#include "forms/system_options_form.h"
+#include "platform/clock.h"
+#include "platform/files.h"
+#include "platform/pictures.h"
+#include "settings/location_profiles.h"
+#include "settings/settings.h"
+#include "weather/time.h"
+
+namespace skyloft {
+namespace {
+
+constexpr double kFreshMinutes = 15;  // of a frame asked for by the user
+
+// In their order: the third colour of the first step must not be taken for the black of the second.
+const std::vector<ColorReplacement> kRadarColors = {
+    {{0, 0, 0}, {90, 90, 80}},
+    {{0, 139, 0}, {0, 0, 0}},
+    {{205, 0, 0}, {255, 75, 75}},
+};
+
+std::string CharactersOf(const std::string& text, int first, int count) {
+  return std::string(LeftText(MiddleText(text, first), count));
+}
+
+// Deletes the site's old frames among the files; whether none of the others is fresh.
+bool NeedsFrame(const std::vector<std::string>& files, const std::string& site, Date now,
+                double fresh_minutes) {
+  bool needed = true;
+  for (const std::string& file : files) {
+    if (!IsFrameOf(file, "nexr", site)) continue;
+    const std::int64_t age = DateDiff(DateUnit::Minutes, FrameTime(file), now);
+    if (age > kOldestFrameMinutes) {
+      DeleteFile(MainForm.FileList.Path + "\\" + file);
+    } else if (static_cast<double>(age) < fresh_minutes) {
+      needed = false;
+    }
+  }
+  return needed;
+}
+
+}  // namespace
+
+void GetNexradData(int mode) {
+  Guarded([&] {
+    if (mode != 0 && mode != 1) return;
+    const Date now = PresentGMT();
+    FileList& list = MainForm.FileList;
+    list.Path = Settings.InstallPath + "\\temp";
+    list.Files = ListFiles(list.Path);
+    // All locations see the files of now; what one of them fetches is not looked at again.
+    const std::vector<std::string> files = list.Files;
+    const int first = mode == 1 ? SelectedLocation() : 0;
+    const int last = mode == 1 ? first : LastLocation();
+    const double fresh = mode == 1 ? kFreshMinutes : LenientNumber(SystemOptionsForm.NexradIndexMax.Text());
+    for (int slot = first; slot <= last; ++slot) {
+      const std::string site = RadarSite(slot);
+      if (!NeedsFrame(files, site, now, fresh)) continue;
+      std::string path = list.Path + "\\nexr." + site + "." + Format(now, "mmddyyyyhhnn") + ".gif";
+      (mode == 0 ? GetRadar : GetImage)(RadarUrl("DS.p19r0", slot), path);
+      ConvertRadarImage(path);
+    }
+  });
+}
+
+void ConvertRadarImage(std::string& path) {
+  Guarded([&] {
+    const std::string target = std::string(LeftText(path, static_cast<int>(path.size()) - 3)) + "png";
+    ConvertPicture(path, target, kRadarColors);
+    const std::string source = std::exchange(path, target);
+    DeleteFile(source);
+  });
+}
+
+std::string RadarUrl(const std::string& product, int slot) {
+  return LocationProfile[ProfileRow::NEXRADServer][slot] + "/radar/images/" + product + "/SI." +
+         RadarSite(slot) + "/latest.gif";
+}
+
+std::string RadarSite(int slot) { return LowerCase(LocationProfile[ProfileRow::NEXRADLocation][slot]); }
+
+bool IsFrameOf(const std::string& file, const std::string& prefix, const std::string& site) {
+  return LeftText(file, 9) == prefix + "." + site;
+}
+
+Date FrameTime(const std::string& file) {
+  return ReadDate(CharactersOf(file, 19, 2) + ":" + CharactersOf(file, 21, 2) + " " +
+                  CharactersOf(file, 11, 2) + "/" + CharactersOf(file, 13, 2) + "/" +
+                  CharactersOf(file, 15, 4));
+}
+
+Date PresentGMT() {
+  int dst = 0;
+  return ReadDate(GetGMT(DateText(Now()), dst));
+}
 
 }  // namespace skyloft

@@ -43,7 +43,7 @@ struct MainFormControls : Form {
   ImageView Display1{this, "Display1"};
   HtmlDisplay Display2{this, "Display2"};
   Picture Legend{this, "Legend"};
-  ControlArray<Mark, 61> ImagePoints{this, "ImagePoints"};
+  ControlArray<Mark, 61> ImagePoints{this, "ImagePoints", &Display1};
 
   // Player, view and zoom.
   ImageButton BackButton{this, "BackButton"};

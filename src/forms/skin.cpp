@@ -39,6 +39,7 @@ constexpr PlaceRow kSkin[] = {
     {"MainForm.ProgressBar", 624, 90, 160, 10},
     // The display.
     {"MainForm.Display1", 180, 108, 604, 415},
+    {"MainForm.ImagePoints", 0, 0, 7, 7},
     {"MainForm.Display2", 180, 108, 604, 415},
     {"MainForm.Legend", 180, 483, 604, 40},
     // Player, view, zoom.

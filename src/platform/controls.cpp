@@ -1,8 +1,15 @@
 #include "platform/controls.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace skyloft {
+namespace {
+
+constexpr int kRectangleTool = 3;
+constexpr double kLargestZoom = 32;  // a view of a few pixels
+
+}  // namespace
 
 void Label::Describe(PropertyList& out) const {
   Control::Describe(out);
@@ -88,8 +95,10 @@ void Picture::Press() {
   if (Enabled) Fire(Click);
 }
 
-void Picture::SetPicture(std::string path) {
+void Picture::SetPicture(std::string path, int width, int height) {
   picture_ = std::move(path);
+  width_ = width;
+  height_ = height;
   MarkDirty();
 }
 
@@ -108,6 +117,18 @@ void ImageView::Describe(PropertyList& out) const {
   out.emplace_back("view_x", double(ViewX));
   out.emplace_back("view_y", double(ViewY));
   out.emplace_back("mouse_tool", double(MouseTool));
+}
+
+void ImageView::Drag(int x1, int y1, int x2, int y2) {
+  const int left = std::min(x1, x2);
+  const int top = std::min(y1, y2);
+  const int width = std::abs(x2 - x1);
+  const int height = std::abs(y2 - y1);
+  if (!Enabled || MouseTool != kRectangleTool || width == 0 || height == 0) return;
+  const double zoom = Zoom;
+  ViewX = ViewX + static_cast<int>(left / zoom);
+  ViewY = ViewY + static_cast<int>(top / zoom);
+  Zoom = std::min(zoom * std::min(double(Width) / width, double(Height) / height), kLargestZoom);
 }
 
 void HtmlDisplay::Describe(PropertyList& out) const {

@@ -91,13 +91,17 @@ class Picture : public Control {
   std::string_view Type() const override { return "Picture"; }
   void Describe(PropertyList& out) const override;
   void Accept(ControlVisitor& visitor) override;
-  void Press();                       // act
-  void SetPicture(std::string path);  // shows the file as it is now, also when the path is unchanged
+  void Press();  // act
+  // Shows the file as it is now, also when the path is unchanged; width and height of the picture, pixels.
+  void SetPicture(std::string path, int width, int height);
   const std::string& PicturePath() const { return picture_; }
+  int PictureWidth() const { return width_; }  // 0 before the first picture
+  int PictureHeight() const { return height_; }
   Event Click;
 
  private:
   std::string picture_;
+  int width_ = 0, height_ = 0;
 };
 
 // A button that is a picture; down and up show its pressed and its normal one.
@@ -111,6 +115,13 @@ class ImageButton : public Picture {
   Event MouseDown, MouseUp;
 };
 
+// A text laid over a picture.
+struct OverlayText {
+  std::string text;
+  int x, y;  // of its upper left corner, pixels of the picture
+  bool operator==(const OverlayText&) const = default;
+};
+
 // A picture that can be zoomed and moved.
 class ImageView : public Picture {
  public:
@@ -118,9 +129,13 @@ class ImageView : public Picture {
   std::string_view Type() const override { return "ImageView"; }
   void Describe(PropertyList& out) const override;
   void Accept(ControlVisitor& visitor) override;
+  // act: the mouse spans a rectangle of the control, in any direction. With the rectangle tool the view then
+  // shows what lay in it, as large as it fits.
+  void Drag(int x1, int y1, int x2, int y2);
   Property<double> Zoom{this, 1.0};
-  Property<int> ViewX{this}, ViewY{this};  // origin of the view in unscaled picture pixels
-  Property<int> MouseTool{this};           // 0 none, 3 a rectangle to zoom
+  Property<int> ViewX{this}, ViewY{this};            // origin of the view in unscaled picture pixels
+  Property<int> MouseTool{this};                     // 0 none, 3 a rectangle to zoom
+  Property<std::vector<OverlayText>> Overlay{this};  // bold, white, 18 pixels high
   MouseEvent MouseDown;
 };
 

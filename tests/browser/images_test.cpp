@@ -1,9 +1,16 @@
 #include "browser/images.h"
 
+#include "base/values.h"
+#include "browser/selection.h"
+#include "core/refresh.h"
+#include "feed/catalogues.h"
+#include "feed/hosts.h"
+#include "forms/main_form.h"
 #include "settings/location_profiles.h"
 #include "settings/settings.h"
 #include "station.h"
 #include "weather/almanac.h"
+#include "weather/periods.h"
 
 namespace skyloft {
 namespace {
@@ -72,6 +79,169 @@ TEST_F(BackgroundTest, TimesThatCannotBeReadLeaveThePicturesAlone) {
   Almanac.Sunrise[1] = "6:45 AM";
   Background(hourly, daily);
   EXPECT_EQ(hourly + daily, "oldformer");
+}
+
+const std::string kTemp = "C:\\program files\\skyloft\\temp\\";
+
+// One product of the catalogue in the sector "2a", whose pictures the server has.
+class PictureFetch : public Station {
+ protected:
+  PictureFetch() {
+    SetUpLocations(1);
+    HostTable.imageserver = "image.skyloft.example/";
+    Catalogues.SectorID = Catalogues.SectorIDPrevious = "2a";
+    Catalogues.ModelRun = "12z";
+    Doubles.Reply("image.skyloft.example/", "picture");
+    SetProduct("4", "6");
+  }
+  static void SetProduct(const std::string& code, const std::string& count) {
+    ProductRecords& record = Catalogues.ProductRecord;
+    record = {};
+    record.last = 0;
+    for (const auto& [list, text] : {std::pair{&record.id, "2"},
+                                     {&record.product, "Wind"},
+                                     {&record.category, "1"},
+                                     {&record.code, code.c_str()},
+                                     {&record.period, count.c_str()},
+                                     {&record.file, "wind"},
+                                     {&record.type, "gif"}}) {
+      list->Put(0, text);
+    }
+    MainForm.ProductSelection.Click = {};
+    MainForm.ProductSelection.Clear();
+    MainForm.ProductSelection.AddItem("001 Wind");
+    MainForm.ProductSelection.Select(0);
+    MainForm.TimeSelection.Click = {};
+    MainForm.TimeSelection.Clear();
+    for (int i = 0; i < 6; ++i) MainForm.TimeSelection.AddItem("Time");
+    MainForm.TimeSelection.Select(1);
+    Browser.SelectedProduct = "Wind";
+  }
+  static void PutPicture(const std::string& name, int seconds_old) {
+    Doubles.files[LowerCase(kTemp + name)] = "old";
+    Doubles.file_times[LowerCase(kTemp + name)] = DateAdd(DateUnit::Seconds, -seconds_old, Doubles.now);
+  }
+};
+
+TEST_F(PictureFetch, TheSelectedFrameIsFetchedAndShown) {
+  MainForm.Display1.Visible = false;
+  ImageFetch();
+  EXPECT_EQ(Doubles.requests, std::vector<std::string>{"image.skyloft.example/wind.2a.12z.024.gif"});
+  EXPECT_EQ(MainForm.Display1.PicturePath(), kTemp + "wind.2a.12z.024.gif");
+  EXPECT_TRUE(MainForm.Display1.Visible);
+  EXPECT_EQ(FrameUrl[1], "image.skyloft.example/wind.2a.12z.012.gif");
+  EXPECT_EQ(FramePath[1], kTemp + "wind.2a.12z.012.gif");
+  EXPECT_EQ(FrameUrl[0], "");
+}
+
+TEST_F(PictureFetch, APictureOf21600SecondsIsShownAndAnOlderOneFetched) {
+  for (const auto& [age, fetches] : {std::pair{21600, 0}, {21601, 1}, {0, 0}, {-21600, 0}, {-21601, 1}}) {
+    PutPicture("wind.2a.12z.024.gif", age);
+    Doubles.requests.clear();
+    MainForm.Display1.SetPicture("former", 1, 1);
+    ImageFetch();
+    EXPECT_EQ(static_cast<int>(Doubles.requests.size()), fetches) << age;
+    EXPECT_EQ(MainForm.Display1.PicturePath(), kTemp + "wind.2a.12z.024.gif");
+  }
+}
+
+TEST_F(PictureFetch, AFailedRefetchShowsTheOldFile) {
+  PutPicture("wind.2a.12z.024.gif", 30000);
+  Doubles.replies.clear();
+  ImageFetch();
+  EXPECT_EQ(Doubles.requests.size(), 1u);
+  EXPECT_EQ(MainForm.Display1.PicturePath(), kTemp + "wind.2a.12z.024.gif");
+}
+
+TEST_F(PictureFetch, APictureThatIsNotThereKeepsTheFormerOne) {
+  MainForm.Display1.SetPicture("former", 1, 1);
+  Doubles.replies.clear();
+  ImageFetch();
+  EXPECT_EQ(MainForm.Display1.PicturePath(), "former");
+  Doubles.Reply("image.skyloft.example/", "garbage");
+  Doubles.missing_pictures.insert(kTemp + "wind.2a.12z.024.gif");
+  ImageFetch();
+  EXPECT_EQ(MainForm.Display1.PicturePath(), "former") << "nor one that is no picture";
+}
+
+TEST_F(PictureFetch, ASeriesPlayedOncePlaysAgainWithoutARequest) {
+  for (int round = 0; round < 2; ++round) {
+    Doubles.requests.clear();
+    for (int i = 0; i < 5; ++i) {
+      MainForm.TimeSelection.Select(i);
+      ImageFetch();
+    }
+    EXPECT_EQ(Doubles.requests.size(), round == 0 ? 5u : 0u);
+  }
+}
+
+TEST_F(PictureFetch, PicturesWithoutASeriesAreFetchedEveryTimeAndEndTheRange) {
+  for (const char* code : {"0", "2", "10"}) {
+    SetProduct(code, "3");
+    PutPicture("wind.2a.gif", 0);
+    Periods.HourIndexMax = 65;
+    Doubles.requests.clear();
+    ImageFetch();
+    ImageFetch();
+    EXPECT_EQ(Doubles.requests, (std::vector<std::string>(2, "image.skyloft.example/wind.2a.gif"))) << code;
+    EXPECT_EQ(Periods.HourIndexMax, 0) << code;
+  }
+}
+
+TEST_F(PictureFetch, TheForecastsCounterKeepsTheHourNamedLastAndStaticPicturesLeaveIt) {
+  ImageFetch();
+  EXPECT_EQ(Refresh.ForecastTimer, "084.");
+  SetProduct("0", "1");
+  Refresh.ForecastTimer = "30";
+  ImageFetch();
+  EXPECT_EQ(Refresh.ForecastTimer, "30");
+  SetProduct("1", "1");
+  ImageFetch();
+  EXPECT_EQ(Refresh.ForecastTimer, "000.");
+}
+
+TEST_F(PictureFetch, APageOfTheWebAndAnUnknownCodeFetchNothing) {
+  for (const char* code : {"url", "12", "-1"}) {
+    SetProduct(code, "3");
+    ImageFetch();
+    EXPECT_TRUE(Doubles.requests.empty()) << code;
+  }
+}
+
+TEST_F(PictureFetch, ForecastRadarPlacesItsPointsOnlyInANewSector) {
+  Browser.SelectedProduct = "Forecast Radar";
+  Catalogues.SectorXMax = Catalogues.SectorYMax = 1000;
+  Catalogues.ImageWidth = Catalogues.ImageHeight = "100";
+  ImageFetch();
+  EXPECT_FALSE(MainForm.ImagePoints[0].Visible);
+  Catalogues.SectorIDPrevious = "before";
+  ImageFetch();
+  EXPECT_TRUE(MainForm.ImagePoints[0].Visible);
+  EXPECT_EQ(Catalogues.SectorIDPrevious, "2a");
+}
+
+TEST_F(PictureFetch, TheThumbnailIsTheNewestFrameOfItsSite) {
+  PutPicture("nexr.ktw0.030720031950.png", 0);
+  PutPicture("nexr.ktw0.030720032000.png", 0);
+  PutPicture("nexr.ktw1.030720032003.png", 0);
+  ThumbnailDisplay("nexr", "ktw0");
+  EXPECT_EQ(MainForm.Thumbnail.PicturePath(), kTemp + "nexr.ktw0.030720032000.png");
+  ThumbnailDisplay("nexr", "kxxx");
+  EXPECT_EQ(MainForm.Thumbnail.PicturePath(), kTemp + "nexr.ktw0.030720032000.png") << "it stays";
+}
+
+TEST_F(PictureFetch, AClickOnTheThumbnailShowsTheRadarUnlessThePlayerRuns) {
+  for (const char* category : {"Planners", "NEXRAD Radar", "NEXRAD Radar"}) {
+    MainForm.CategorySelection.AddItem(category);
+  }
+  MainForm.CategorySelection.Click = {};
+  MainForm.ImageForwardTimer.Enabled = true;
+  MainForm.Thumbnail.Press();
+  EXPECT_EQ(MainForm.CategorySelection.ListIndex(), -1);
+  MainForm.ImageForwardTimer.Enabled = false;
+  MainForm.Thumbnail.Press();
+  EXPECT_EQ(MainForm.CategorySelection.ListIndex(), 1) << "the first hit";
+  EXPECT_EQ(MainForm.ProductSelection.ListIndex(), 0);
 }
 
 }  // namespace

@@ -86,5 +86,66 @@ TEST_F(Player, EachStepRaisesTheSelectionOnce) {
   EXPECT_EQ(raised, 3) << "also for the entry that stays";
 }
 
+TEST_F(Player, PlayRunsTheTimerAndShutsTheListsButThatOfCategories) {
+  SetTimes(20);
+  MainForm.PlayButton.Press();
+  EXPECT_TRUE(MainForm.ImageForwardTimer.Enabled);
+  EXPECT_EQ(MainForm.ImageForwardTimer.Interval, 500);
+  EXPECT_EQ(MainForm.ProgressBar.Color, 65280);
+  EXPECT_EQ(Picture(MainForm.PlayButton) + Picture(MainForm.StopButton), "playd.gifstop.gif");
+  EXPECT_EQ(Picture(MainForm.BackButton) + Picture(MainForm.NextButton), "backd.gifnextd.gif");
+  EXPECT_FALSE(MainForm.PlayButton.Enabled || MainForm.BackButton.Enabled || MainForm.NextButton.Enabled);
+  EXPECT_FALSE(MainForm.LocationSelection.Enabled || MainForm.ProductSelection.Enabled ||
+               MainForm.TimeSelection.Enabled);
+  EXPECT_TRUE(MainForm.CategorySelection.Enabled);
+}
+
+TEST_F(Player, StopGivesTheListsBack) {
+  SetTimes(3);
+  MainForm.PlayButton.Press();
+  MainForm.StopButton.Press();
+  EXPECT_FALSE(MainForm.ImageForwardTimer.Enabled);
+  EXPECT_EQ(MainForm.ProgressBar.Color, 0xff0000);
+  EXPECT_TRUE(MainForm.PlayButton.Enabled && MainForm.BackButton.Enabled && MainForm.NextButton.Enabled);
+  EXPECT_FALSE(MainForm.StopButton.Enabled);
+  EXPECT_TRUE(MainForm.LocationSelection.Enabled && MainForm.ProductSelection.Enabled &&
+              MainForm.TimeSelection.Enabled);
+}
+
+TEST_F(Player, ALoopTakesTenSecondsAndARadarFrameAFifthOfOne) {
+  const struct {
+    const char* product;
+    int count, interval;
+  } cases[] = {{"Wind", 20, 500}, {"Wind", 3, 3333}, {"Wind", 7, 1429}, {"Reflectivity", 20, 200}};
+  for (const auto& c : cases) {
+    Browser.SelectedProduct = c.product;
+    MainForm.TimeSelection.Click = {};
+    SetTimes(c.count);
+    MainForm.PlayButton.Press();
+    EXPECT_EQ(MainForm.ImageForwardTimer.Interval, c.interval) << c.product << c.count;
+    MainForm.StopButton.Press();
+  }
+}
+
+TEST_F(Player, AProductOfOneFrameDoesNotPlay) {
+  SetTimes(3);
+  Periods.HourIndexMax = 0;
+  MainForm.PlayButton.Press();
+  EXPECT_FALSE(MainForm.ImageForwardTimer.Enabled);
+  EXPECT_TRUE(MainForm.TimeSelection.Enabled);
+}
+
+TEST_F(Player, TheTimerGoesThroughTheEntriesAndBeginsAnew) {
+  SetTimes(3);
+  MainForm.PlayButton.Press();
+  for (const int index : {1, 2, 0, 1}) {
+    MainForm.ImageForwardTimer.Elapse();
+    EXPECT_EQ(MainForm.TimeSelection.ListIndex(), index);
+    EXPECT_EQ(MainForm.ProductTitle.Caption.Get(), "Weekly Planner Time " + std::to_string(index));
+  }
+  MainForm.TimeSelection.Clear();
+  EXPECT_NO_THROW(MainForm.ImageForwardTimer.Elapse());
+}
+
 }  // namespace
 }  // namespace skyloft

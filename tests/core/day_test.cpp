@@ -70,6 +70,10 @@ TEST_F(DayInTheLife, EveryRequestOf24HoursGoesOutAtItsTimeForItsTownsAndNoOther)
   const std::string hourly = all + "&st=1%2F1%2F2000+0%3A00%3A00+AM&et=12%2F31%2F2100+12%3A00%3A00+AM&t=xml";
   const std::string extended = all + "&t=xml&fcsttype=extended";
   const std::string hosts = "/skyloft/config/hosts.xml";
+  std::vector<std::string> radar;  // of sites that the feed does not know, so that they are never fresh
+  for (int i = 0; i < 3; ++i) {
+    radar.push_back("/radar/images/DS.p19r0/SI.ktw" + std::to_string(i) + "/latest.gif");
+  }
   const auto catalogue = [](Date run) { return Format(run, "hh") + "z.sys"; };
   // The model runs every six hours and is done three hours later.
   const auto run_at = [](Date now) { return Date{(now.seconds - 3 * 3600) / 21600 * 21600}; };
@@ -83,9 +87,10 @@ TEST_F(DayInTheLife, EveryRequestOf24HoursGoesOutAtItsTimeForItsTownsAndNoOther)
   Date loaded = run_at(start);
   std::map<std::string, std::int64_t> held;
   for (const std::string& zip : zips) held[zip] = observed_at(zip, start);
-  EXPECT_EQ(NewRequests(), (std::vector<std::string>{hosts, meta, "/products." + catalogue(loaded) + ".4",
-                                                     "/sectors." + catalogue(loaded),
-                                                     all + "&t=xml&d=current", hourly, extended}));
+  EXPECT_EQ(NewRequests(),
+            (std::vector<std::string>{hosts, meta, "/products." + catalogue(loaded) + ".4",
+                                      "/sectors." + catalogue(loaded), all + "&t=xml&d=current", hourly,
+                                      extended, radar[0], radar[1], radar[2]}));
 
   int chains = 0;
   for (int tick = 1; tick <= 24 * 3600 / kTickSeconds; ++tick) {
@@ -94,7 +99,8 @@ TEST_F(DayInTheLife, EveryRequestOf24HoursGoesOutAtItsTimeForItsTownsAndNoOther)
     MainForm.UpdateTimer.Elapse();
 
     std::vector<std::string> expected;
-    if (tick % 30 == 0) {  // 15 minutes
+    if (tick % 20 == 0) expected = radar;  // 10 minutes
+    if (tick % 30 == 0) {                  // 15 minutes
       expected.push_back(meta);
       std::vector<std::string> moved;
       for (const std::string& zip : zips) {

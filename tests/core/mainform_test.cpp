@@ -71,7 +71,9 @@ TEST_F(StartUp, EachQueryIsSentOnceForAllLocationsInTheOrderOfTheSteps) {
                                   "sectors.12z.sys", "server/forecast.asp?pc=10000&pc=10001&t=xml&d=current",
                                   "server/forecast.asp?pc=10000&pc=10001"
                                   "&st=1%2F1%2F2000+0%3A00%3A00+AM&et=12%2F31%2F2100+12%3A00%3A00+AM"
-                                  "&t=xml"}));
+                                  "&t=xml",
+                                  "radar.skyloft.example/radar/images/DS.p19r0/SI.ktw0/latest.gif",
+                                  "radar.skyloft.example/radar/images/DS.p19r0/SI.ktw1/latest.gif"}));
 }
 
 TEST_F(StartUp, WithoutALocationTheWizardRunsAndTheSplashIsNotUsed) {

@@ -284,24 +284,28 @@ TEST_F(RefreshTest, MessagesAreReadAtTheIntervalOfTheHostTableAndWithoutOneAtEve
   EXPECT_EQ(Refresh.MessageTimer, 0) << "0 seconds";
 }
 
-TEST_F(RefreshTest, ARadarRefreshResetsThePlayersRangeOnlyInTheRadarCategory) {
+TEST_F(RefreshTest, ARadarRefreshShowsTheFramesAndResetsThePlayersRangeOnlyInTheRadarCategory) {
+  LocationProfile[ProfileRow::TimeZone][0] = "-6";
+  for (const char* stamp : {"030720031940", "030720031950", "030720032000"}) {  // it is 20:05 GMT
+    PutFile(std::string("nexr.ktw0.") + stamp + ".png", 0);
+  }
   MainForm.CategorySelection.AddItem("Planners");
   MainForm.CategorySelection.AddItem("NEXRAD Radar");
   MainForm.CategorySelection.Click = {};
-  MainForm.TimeSelection.Click = {};
-  for (const char* time : {"one", "two", "three"}) MainForm.TimeSelection.AddItem(time);
-  MainForm.TimeSelection.Select(1);
   Browser.SelectedProduct = "Reflectivity";
-  for (const auto& [category, hours, title] :
-       {std::tuple{0, 65, std::string("before")}, {1, 2, std::string("Reflectivity two")}}) {
+  for (const auto& [category, hours, title] : {std::tuple{0, 65, std::string("before")},
+                                               {1, 2, std::string("Reflectivity 02:00 PM CST 03/07/03")}}) {
     MainForm.CategorySelection.Select(category);
+    MainForm.TimeSelection.Clear();
     Periods.HourIndexMax = 65;
     MainForm.ProductTitle.Caption = "before";
     Refresh.NexradTimer = 570;
-    Ticks(1, "");
+    EXPECT_EQ(Ticks(1, "/radar/"), 0) << "the newest frame is fresh";
     EXPECT_EQ(Refresh.NexradTimer, 0);
     EXPECT_EQ(Periods.HourIndexMax, hours);
     EXPECT_EQ(MainForm.ProductTitle.Caption.Get(), title);
+    EXPECT_EQ(MainForm.Thumbnail.PicturePath(),
+              "C:\\program files\\skyloft\\temp\\nexr.ktw0.030720032000.png");
   }
 }
 

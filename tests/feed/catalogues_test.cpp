@@ -149,5 +149,84 @@ TEST_F(CataloguesTest, AHoleInTheCatalogueEndsTheListThere) {
   EXPECT_EQ(MainForm.ProductSelection.ListIndex(), -1);
 }
 
+std::string Sector(const std::string& name, int xmin, int xmax, int ymin, int ymax) {
+  return Element("sector", name) + Element("xmin", std::to_string(xmin)) +
+         Element("xmax", std::to_string(xmax)) + Element("ymin", std::to_string(ymin)) +
+         Element("ymax", std::to_string(ymax));
+}
+
+// A product of the family "2", sectors of the families "2" and "3".
+class SectorChoice : public CataloguesTest {
+ protected:
+  SectorChoice() {
+    Load(Product("Wind", "0"));
+    GetAvailableProducts(0);
+    Doubles.Reply("sectors.", Reply(Sector("200", -5000, 5000, -4000, 9000) +  // every point lies in it
+                                    Sector("3x", 0, 100, 0, 100) + Sector("2a", 0, 100, 0, 100) +
+                                    Sector("2b", 60, 140, 0, 100) + Sector("2c", 60, 140, 0, 100)));
+    GetSectorData();
+    MainForm.NationalButton.Enabled = true;
+    Catalogues.SectorID = "former";
+    Catalogues.SectorIDPrevious = "before";
+  }
+  static std::string Choose(double x, double y) {
+    GetSectorID(0, x, y);
+    return Catalogues.SectorID;
+  }
+};
+
+TEST_F(SectorChoice, TheNearestCentreOfTheFamilyWinsAndOfEqualsTheFirst) {
+  const struct {
+    double x, y;
+    const char* sector;
+  } cases[] = {
+      {50, 50, "2a"},    // in 3x too, which is of another family
+      {74, 50, "2a"},    // 24 from 50, 26 from 100
+      {76, 50, "2b"},    // and 2c has the same centre
+      {140, 100, "2b"},  // on the corner
+      {0, 0, "2a"},     {100, 100, "2b"}, {300, 50, "200"},
+  };
+  for (const auto& c : cases) EXPECT_EQ(Choose(c.x, c.y), c.sector) << c.x;
+  Choose(76, 50);
+  EXPECT_EQ(Catalogues.SectorXMin, 60);
+  EXPECT_EQ(Catalogues.SectorXMax, 140);
+  EXPECT_EQ(Catalogues.SectorYMin, 0);
+  EXPECT_EQ(Catalogues.SectorYMax, 100);
+}
+
+TEST_F(SectorChoice, TheSectorBeforeMayBeOneThatWasOnlyPassedOver) {
+  Choose(90, 50);  // 200, then 2a, then 2b
+  EXPECT_EQ(Catalogues.SectorID, "2b");
+  EXPECT_EQ(Catalogues.SectorIDPrevious, "2a");
+}
+
+TEST_F(SectorChoice, APointInNoRectangleKeepsTheNameAndTakesTheEdgesOfTheFirstSector) {
+  EXPECT_EQ(Choose(9000, 9000), "former");
+  EXPECT_EQ(Catalogues.SectorIDPrevious, "before");
+  EXPECT_EQ(Catalogues.SectorXMin, -5000);
+  EXPECT_EQ(Catalogues.SectorYMax, 9000);
+}
+
+TEST_F(SectorChoice, TheNationalViewIsTwoHundredWithTheEdgesOfTheFirstSector) {
+  MainForm.NationalButton.Enabled = false;
+  EXPECT_EQ(Choose(50, 50), "200");
+  EXPECT_EQ(Catalogues.SectorIDPrevious, "before") << "the search is not run";
+  EXPECT_EQ(Catalogues.SectorXMin, -5000);
+}
+
+TEST_F(SectorChoice, RadarAndAPlannerThatNoProductHasKeepTheirSector) {
+  for (const char* name : {"Reflectivity", "Hourly Weather Planner"}) {
+    Load(Product(name, "0"));
+    GetAvailableProducts(0);
+    EXPECT_EQ(Choose(50, 50), "former") << name;
+    EXPECT_EQ(Catalogues.SectorXMax, 0);
+  }
+}
+
+TEST_F(SectorChoice, TheProductGivenIsNotRead) {
+  GetSectorID(77, 50, 50);
+  EXPECT_EQ(Catalogues.SectorID, "2a");
+}
+
 }  // namespace
 }  // namespace skyloft

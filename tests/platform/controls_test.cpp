@@ -173,7 +173,10 @@ TEST(Forms, TheOptionListsHoldTheirMinutes) {
   EXPECT_EQ(form.NexradIndexMax.Count(), 11);
 }
 
-bool IsShown(const Control& control) { return control.Width > 0 && control.Height > 0; }
+// Whether it has a place of its own in the window; what lies in another control does not.
+bool IsShown(const Control& control) {
+  return control.Width > 0 && control.Height > 0 && !control.Container();
+}
 
 TEST(Skin, NothingOfTheMainWindowLiesUnderItsRoundCorners) {
   ApplySkin();

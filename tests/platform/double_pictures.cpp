@@ -1,5 +1,6 @@
 #include "base/guard.h"
 #include "platform/doubles.h"
+#include "platform/files.h"
 #include "platform/pictures.h"
 #include "platform/tray.h"
 
@@ -17,7 +18,15 @@ void Load(const std::string& path) {
 
 void LoadPicture(Picture& control, const std::string& path) {
   Load(path);
-  control.SetPicture(path);
+  control.SetPicture(path, Doubles.picture_width, Doubles.picture_height);
+}
+
+void ConvertPicture(const std::string& source, const std::string& target,
+                    const std::vector<ColorReplacement>& replacements) {
+  const std::string bytes = ReadFile(source);
+  if (Doubles.picture_failure.Due()) throw RuntimeError("no picture " + source);
+  Doubles.conversions.push_back(replacements.size());
+  WriteFile(target, bytes);
 }
 
 void LoadIcon(TrayIcon& icon, const std::string& path) {

@@ -61,6 +61,8 @@ struct DoublesState {
   // pictures: all exist but these
   std::set<std::string> missing_pictures;
   std::vector<std::string> loaded_pictures;
+  int picture_width = 620, picture_height = 620;
+  std::vector<size_t> conversions;  // how many colours each conversion replaced
   Failure picture_failure;
 
   // window, dialogs, shell, screen, process

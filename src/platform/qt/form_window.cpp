@@ -13,6 +13,7 @@
 #include "platform/qt/skin_style.h"
 #include "platform/qt/text_qt.h"
 #include "platform/qt/view_maker.h"
+#include "platform/qt/widgets.h"
 
 namespace skyloft {
 namespace {
@@ -31,11 +32,6 @@ Qt::WindowFlags FlagsOf(const Form& form) {
 bool IsSizeable(const Form& form) { return (form.Style & 0x40000u) != 0; }
 
 QPoint PixelsOf(const Form& form) { return {form.Left / kTwipsPerPixel, form.Top / kTwipsPerPixel}; }
-
-MousePress PressOf(const QMouseEvent& event) {
-  const auto button = event.button() == Qt::LeftButton ? MouseButton::Left : MouseButton::Right;
-  return {event.pos().x(), event.pos().y(), button};
-}
 
 }  // namespace
 

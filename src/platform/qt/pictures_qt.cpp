@@ -1,23 +1,85 @@
 #include "platform/qt/pictures_qt.h"
 
-#include <map>
+#include <algorithm>
+#include <list>
 
 #include <QBuffer>
+#include <QDateTime>
+#include <QFileInfo>
 #include <QImageReader>
 
 #include "base/guard.h"
 #include "platform/files.h"
 #include "platform/pictures.h"
+#include "platform/qt/drive.h"
 
 namespace skyloft {
 namespace {
 
 constexpr int kLargestSide = 8192;
 constexpr qint64 kLargestArea = 32 * 1024 * 1024;
+constexpr qsizetype kKeptBytes = 24 * 1024 * 1024;
+constexpr int kFastPng = 90;  // quality: little compression in little time
 
-std::map<std::string, QImage>& Loaded() {
-  static std::map<std::string, QImage> pictures;
+// A picture that was read, and the file as it was then.
+struct KeptPicture {
+  std::string path;
+  QDateTime time;
+  qint64 size;
+  QImage image;
+};
+
+// The pictures read last, the newest first; together at most kKeptBytes, but always the newest.
+std::list<KeptPicture>& Kept() {
+  static std::list<KeptPicture> pictures;
   return pictures;
+}
+
+void DropOldest() {
+  qsizetype bytes = 0;
+  auto& kept = Kept();
+  for (auto picture = kept.begin(); picture != kept.end();) {
+    bytes += picture->image.sizeInBytes();
+    picture = bytes > kKeptBytes && picture != kept.begin() ? kept.erase(picture) : std::next(picture);
+  }
+}
+
+// The picture of a file, decoded once for each change of the file.
+QImage PictureOf(const std::string& path) {
+  const auto file = PathForReading(path);
+  const QFileInfo info(file ? *file : QString());
+  auto& kept = Kept();
+  const auto found = std::ranges::find(kept, path, &KeptPicture::path);
+  if (found != kept.end()) {
+    if (info.exists() && found->time == info.lastModified() && found->size == info.size()) {
+      kept.splice(kept.begin(), kept, found);
+      return found->image;
+    }
+    kept.erase(found);
+  }
+  const QImage image = ReadPicture(path);
+  if (image.isNull()) return image;
+  kept.push_front({path, info.lastModified(), info.size(), image});
+  DropOldest();
+  return image;
+}
+
+QRgb RgbOf(PictureColor color) { return qRgb(color.red, color.green, color.blue); }
+
+// The same pixels change, whether the picture has a table of colours or not.
+void Replace(QImage& image, const ColorReplacement& replacement) {
+  const QRgb from = RgbOf(replacement.from);
+  const QRgb to = RgbOf(replacement.to);
+  if (image.colorCount() > 0) {
+    QList<QRgb> table = image.colorTable();
+    std::ranges::replace(table, from, to);
+    image.setColorTable(table);
+    return;
+  }
+  for (int y = 0; y < image.height(); ++y) {
+    auto* const line = reinterpret_cast<QRgb*>(image.scanLine(y));
+    std::replace(line, line + image.width(), from, to);
+  }
 }
 
 bool IsSane(QSize size) {
@@ -27,10 +89,7 @@ bool IsSane(QSize size) {
 
 }  // namespace
 
-QImage LoadedPicture(const std::string& path) {
-  const auto found = Loaded().find(path);
-  return found == Loaded().end() ? QImage() : found->second;
-}
+QImage LoadedPicture(const std::string& path) { return path.empty() ? QImage() : PictureOf(path); }
 
 QImage ReadPicture(const std::string& path) {
   const QList<QImage> images = ReadPictures(path, 1);
@@ -54,10 +113,22 @@ QList<QImage> ReadPictures(const std::string& path, int most) {
 }
 
 void LoadPicture(Picture& control, const std::string& path) {
-  QImage image = ReadPicture(path);
+  const QImage image = PictureOf(path);
   if (image.isNull()) throw RuntimeError("no picture: " + path);
-  Loaded()[path] = std::move(image);
-  control.SetPicture(path);
+  control.SetPicture(path, image.width(), image.height());
+}
+
+void ConvertPicture(const std::string& source, const std::string& target,
+                    const std::vector<ColorReplacement>& replacements) {
+  QImage image = ReadPicture(source);
+  if (image.isNull()) throw RuntimeError("no picture: " + source);
+  if (image.colorCount() == 0) image.convertTo(QImage::Format_ARGB32);
+  for (const ColorReplacement& replacement : replacements) Replace(image, replacement);
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  if (!image.save(&buffer, "PNG", kFastPng)) throw RuntimeError("no PNG of: " + source);
+  WriteFile(target, bytes.toStdString());
 }
 
 }  // namespace skyloft

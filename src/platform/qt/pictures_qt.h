@@ -8,7 +8,8 @@
 
 namespace skyloft {
 
-// The picture that was last loaded from this path; a null image when there is none.
+// The picture of a file, decoded once for each change of the file; a null image when there is none. The
+// pictures used last are kept.
 QImage LoadedPicture(const std::string& path);
 
 // Reads a picture file; a null image when it is missing, no picture, or larger than a screenful of screens.

@@ -98,9 +98,21 @@ class ViewMaker : public ControlVisitor {
 
   void Visit(ImageView& model) override {
     auto* view = new ZoomView(ParentOf(model));
+    view->pressed = [&model](const MousePress& press) { Raise([&] { Fire(model.MouseDown, press); }); };
+    view->dragged = [&model](QPoint from, QPoint to) {
+      Raise([&] { model.Drag(from.x(), from.y(), to.x(), to.y()); });
+    };
     Keep(model, view, [&model, view] {
       view->SetView(LoadedPicture(model.PicturePath()), model.Zoom, QPoint(model.ViewX, model.ViewY));
+      view->SetOverlay(model.Overlay);
+      view->SetRectangleTool(model.MouseTool == 3);
     });
+  }
+
+  void Visit(Mark& model) override {
+    auto* dot = new MarkDot(ParentOf(model));
+    dot->pressed = [&model](const MousePress& press) { Raise([&] { Fire(model.MouseDown, press); }); };
+    Keep(model, dot, [&model, dot] { dot->SetColor(ColorOf(model.Color)); });
   }
 
   void Visit(HtmlDisplay& model) override {

@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include "platform/qt/text_qt.h"
+
 namespace skyloft {
 
 void PictureButton::SetImage(const QImage& image) {
@@ -59,11 +61,82 @@ void ZoomView::SetView(const QImage& image, double zoom, QPoint origin) {
   update();
 }
 
+void ZoomView::SetOverlay(const std::vector<OverlayText>& overlay) {
+  if (overlay_ == overlay) return;
+  overlay_ = overlay;
+  update();
+}
+
+void ZoomView::SetRectangleTool(bool on) {
+  rectangle_tool_ = on;
+  setCursor(on ? Qt::CrossCursor : Qt::ArrowCursor);
+}
+
 void ZoomView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), Qt::black);
+  painter.save();
+  painter.setRenderHint(QPainter::SmoothPixmapTransform, zoom_ != 1);
   painter.scale(zoom_, zoom_);
-  painter.drawImage(-origin_, image_);
+  painter.translate(-origin_);
+  painter.drawImage(QPoint(0, 0), image_);
+  QFont font("Tahoma");
+  font.setPixelSize(18);
+  font.setBold(true);
+  painter.setFont(font);
+  painter.setPen(Qt::white);
+  for (const OverlayText& text : overlay_) {
+    painter.drawText(QPoint(text.x, text.y + painter.fontMetrics().ascent()), ToQt(text.text));
+  }
+  painter.restore();
+  if (!held_at_) return;
+  painter.setPen(QPen(QColor(255, 211, 92), 1, Qt::DashLine));
+  painter.drawRect(QRect(*held_at_, mouse_).normalized());
+}
+
+void ZoomView::mousePressEvent(QMouseEvent* event) {
+  mouse_ = event->position().toPoint();
+  if (rectangle_tool_ && event->button() == Qt::LeftButton) held_at_ = mouse_;
+  if (pressed) pressed(PressOf(*event));
+}
+
+void ZoomView::mouseMoveEvent(QMouseEvent* event) {
+  mouse_ = event->position().toPoint();
+  if (held_at_) update();
+}
+
+void ZoomView::mouseReleaseEvent(QMouseEvent* event) {
+  if (!held_at_ || event->button() != Qt::LeftButton) return;
+  const QPoint from = *held_at_;
+  held_at_.reset();
+  update();
+  if (dragged) dragged(from, event->position().toPoint());
+}
+
+void MarkDot::SetColor(QColor color) {
+  color_ = color;
+  update();
+}
+
+void MarkDot::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QColor(6, 14, 40));
+  painter.setBrush(color_);
+  painter.drawEllipse(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+}
+
+void MarkDot::mousePressEvent(QMouseEvent* event) {
+  if (pressed) pressed(PressOf(*event));
+}
+
+MousePress PressOf(const QMouseEvent& event) {
+  const QPoint at = event.position().toPoint();
+  const bool doubled = event.type() == QEvent::MouseButtonDblClick;
+  return {at.x(), at.y(),
+          doubled                             ? MouseButton::Double
+          : event.button() == Qt::RightButton ? MouseButton::Right
+                                              : MouseButton::Left};
 }
 
 }  // namespace skyloft

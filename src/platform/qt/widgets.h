@@ -2,11 +2,15 @@
 #pragma once
 
 #include <functional>
+#include <optional>
+#include <vector>
 
 #include <QAbstractButton>
 #include <QImage>
 #include <QLabel>
 #include <QWidget>
+
+#include "platform/controls.h"
 
 namespace skyloft {
 
@@ -48,19 +52,48 @@ class PositionBar : public QWidget {
   QColor color_;
 };
 
-// A picture, zoomed and moved.
+// A picture, zoomed and moved, with texts laid over it. The mouse can span a rectangle.
 class ZoomView : public QWidget {
  public:
   explicit ZoomView(QWidget* parent) : QWidget(parent) {}
   void SetView(const QImage& image, double zoom, QPoint origin);
+  void SetOverlay(const std::vector<OverlayText>& overlay);
+  void SetRectangleTool(bool on);
+  std::function<void(const MousePress&)> pressed;
+  std::function<void(QPoint from, QPoint to)> dragged;  // with the rectangle tool
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
   QImage image_;
   double zoom_ = 1;
   QPoint origin_;
+  std::vector<OverlayText> overlay_;
+  bool rectangle_tool_ = false;
+  std::optional<QPoint> held_at_;  // where the mouse went down with the tool
+  QPoint mouse_;
 };
+
+// A small round mark.
+class MarkDot : public QWidget {
+ public:
+  explicit MarkDot(QWidget* parent) : QWidget(parent) {}
+  void SetColor(QColor color);
+  std::function<void(const MousePress&)> pressed;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+
+ private:
+  QColor color_;
+};
+
+// A mouse event as the models know it.
+MousePress PressOf(const QMouseEvent& event);
 
 }  // namespace skyloft
