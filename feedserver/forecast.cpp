@@ -132,7 +132,7 @@ void AddPeriod(XmlDocument& xml, const Spot& spot, Date end, std::uint64_t seed)
   AddRow(xml, teller, kWindTags);
 }
 
-// Goes on where five periods of the hourly forecast end, so that both together reach over twelve whole days.
+// Goes on where the hourly forecast ends, so that both together reach over twelve whole days.
 std::string ExtendedXml(const std::vector<Spot>& spots, Date now, std::uint64_t seed) {
   XmlDocument xml("extended");
   const Date first = AddHours(FloorTo(ModelRun(now), kPeriodHours * kHour), kHourlyPeriods * kPeriodHours);

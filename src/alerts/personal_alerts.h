@@ -10,6 +10,9 @@ struct PersonalAlertState {
 };
 extern PersonalAlertState PersonalAlertsState;
 
+// Whether an alert of either kind, a bulletin or a personal one, is on display.
+bool IsAlertShowing();
+
 // Tests the forecast of every location. Does nothing yet.
 void PersonalAlerts();
 

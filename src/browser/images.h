@@ -21,8 +21,9 @@ void ImageFetch();
 void ThumbnailDisplay(const std::string& prefix, const std::string& site);
 
 // The two pictures behind the bands of the hourly planner, by whole path: those of the night when the sun is
-// down at the selected location for more than 40 minutes, else those of the day. Today is the computer's
-// date; a sun time that is "" reads as midnight. Without times that can be read both stay as they were.
+// down at the selected location, more than 40 minutes and in another hour of the clock, else those of the
+// day. Today is the computer's date; a sun time that is "" reads as midnight. Without times that can be read
+// both stay as they were.
 void Background(std::string& hourly, std::string& daily);
 
 // Attaches the click on Thumbnail, which shows the first product of the radar unless the player runs.

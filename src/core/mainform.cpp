@@ -65,8 +65,7 @@ void SelectStoredLocation() {
 }
 
 void ShowTicker() {
-  const bool alert = Bulletins.NWSAlertActive == 1 || PersonalAlertsState.PersonalAlertActive == 1;
-  if (!alert) TickerDisplay();
+  if (!IsAlertShowing()) TickerDisplay();
   if (!SystemOptionsForm.ShowTicker.Checked) return;
   TickerForm.Visible = true;
   if (SystemOptionsForm.AlwaysOnTop.Checked) Chrome.TickerWindow.SetTopMost(true);

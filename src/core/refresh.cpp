@@ -3,6 +3,7 @@
 #include "alerts/bulletins.h"
 #include "alerts/personal_alerts.h"
 #include "base/guard.h"
+#include "base/tables.h"
 #include "base/values.h"
 #include "browser/images.h"
 #include "browser/radar_frames.h"
@@ -147,8 +148,7 @@ void HideChannel() {
 }
 
 void StepTicker() {
-  const bool alert = Bulletins.NWSAlertActive == 1 || PersonalAlertsState.PersonalAlertActive == 1;
-  if (TickerForm.Visible && !alert) TickerDisplay();
+  if (TickerForm.Visible && !IsAlertShowing()) TickerDisplay();
 }
 
 void TellLocationTime() {
@@ -191,8 +191,10 @@ void CleanTempFolder() {
     files.Path = Settings.InstallPath + "\\temp\\";
     files.Files = ListFiles(files.Path);
     const Date now = Now();
-    for (const std::string& name : files.Files) {
-      const std::string path = files.Path + name;
+    const size_t count = files.Files.size();
+    // One step past the last there is no file, and that ends it.
+    for (size_t i = 0; i <= count; ++i) {
+      const std::string path = files.Path + files.Files[CheckedIndex(static_cast<int>(i), count)];
       if (DateDiff(DateUnit::Minutes, FileTime(path), now) > kOldestMinutes) DeleteFile(path);
     }
   });

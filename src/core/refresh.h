@@ -6,9 +6,9 @@
 
 namespace skyloft {
 
-// Counters of seconds. Each is advanced by every tick of the refresh and cleared just before its work; the
-// interval is read anew at each tick, so a period is the interval rounded up to a multiple of 30 seconds. The
-// counters of the alerts stand with the alerts.
+// Counters of seconds. Each but the last is advanced by every tick of the refresh and cleared just before its
+// work; the interval is read anew at each tick, so a period is the interval rounded up to a multiple of 30
+// seconds. The counters of the alerts stand with the alerts.
 struct RefreshState {
   double MessageTimer = 0;
   double NexradTimer = 0;
@@ -16,7 +16,7 @@ struct RefreshState {
   // Also the hour text of the last model picture named, such as "066.", from which the counting then goes on.
   // This is meant.
   std::string ForecastTimer = "0";
-  double ChannelCounter = 0;  // seconds that Channel has been on show
+  double ChannelCounter = 0;  // ticks of the clock since Channel was shown, 3 at most
 };
 extern RefreshState Refresh;
 

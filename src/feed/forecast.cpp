@@ -63,8 +63,8 @@ int ReadTags(const XmlDocument& reply, const Tags& tags, int locations, LocalTab
 }
 
 // Fetches the locations `first` to `last` and copies their rows into the table.
-template <class Tags, class Table>
-void LoadTable(const char* kind, const Tags& tags, int first, int last, LocalTables& cells, Table& table) {
+template <class Tags, class Rows>
+void LoadTable(const char* kind, const Tags& tags, int first, int last, LocalTables& cells, Rows& table) {
   int rows = 0;
   QueryServer(HostTable.forecastserver + "forecast.asp?" + ZipCodeSelection(first, last) + kind,
               [&](const XmlDocument& reply) { rows = ReadTags(reply, tags, last - first, cells); });

@@ -13,12 +13,13 @@ namespace skyloft {
 namespace {
 
 constexpr std::int64_t kHalfDay = 43200;  // seconds
+constexpr const char* kStampForm = "mmm dd yyyy hh:mmAM/PM";
 
 std::string WithoutLast(const std::string& text, int count) {
   return std::string(LeftText(text, static_cast<int>(text.size()) - count));
 }
 
-std::string Stamp(Date date) { return Format(date, "mmm dd yyyy hh:mmAM/PM"); }
+std::string Stamp(Date date) { return Format(date, kStampForm); }
 
 std::string AmountOrDash(const std::string& text) { return LenientNumber(text) > 0 ? text : "-"; }
 
@@ -79,7 +80,7 @@ ExtendedColumns JoinColumns() {
   int c = near_columns;
   for (int d = 0; d <= 24 - near_columns; ++d) {
     const ForecastDayFields& day = ForecastDay[location][d];
-    if (Format(day.Ut, "mmm dd yyyy hh:mmAM/PM") != wanted || wanted.empty()) continue;
+    if (Format(day.Ut, kStampForm) != wanted || wanted.empty()) continue;
     FillFarColumn(columns, c++, day, offset, hours[d].Ws);
     wanted = Stamp(DateAdd(DateUnit::Seconds, kHalfDay, ReadDate(day.Ut)));
   }

@@ -21,7 +21,8 @@ class XmlDocument {
   // How many elements have this tag, anywhere in the document. Case counts.
   int Count(std::string_view tag) const;
   // The text of element `index` in document order, 0 is the first: all text inside it, blanks kept, in
-  // windows-1252; blanks alone next to an inner element are layout and no text. Raises when there is no such element.
+  // windows-1252; blanks alone next to an inner element are layout and no text. Raises when there is no such
+  // element.
   std::string Text(std::string_view tag, int index) const;
   // The texts of all its elements.
   std::vector<std::string> Texts(std::string_view tag) const;

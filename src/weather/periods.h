@@ -33,9 +33,9 @@ struct PeriodState {
 extern PeriodState Periods;
 
 // Sums up the periods of all locations (scope 0) or of the last one only. The names of the days are made anew
-// for all, and always from the hours of the selected location. Raises for hours that lack a time, and for a
-// dry period none of whose hours has a phrase of the period's half of the sky table; the periods from that
-// one on stay as they were.
+// for all, and always from the hours of the selected location. Raises when the first hour used has no time,
+// and for a dry period none of whose hours has a phrase of the period's half of the sky table; the periods
+// from that one on stay as they were.
 void GetPeriod(int scope);
 
 // Sums up the hours `first` to `last` of a location as its period `period`, a day or a night.

@@ -40,7 +40,13 @@ class BackgroundTest : public Station {
   }
 };
 
-TEST_F(BackgroundTest, ItIsNightMoreThanFortyMinutesBeforeSunriseAndAfterSunset) {
+TEST_F(BackgroundTest, WithinTheHourOfTheClockInWhichTheSunSetItIsDay) {
+  Almanac.Sunset[1] = "6:05 PM";
+  EXPECT_EQ(LightAt(18, 50), "a");
+  EXPECT_EQ(LightAt(19, 0), "n");
+}
+
+TEST_F(BackgroundTest, ItIsNightMoreThanFortyMinutesAndAnHourOfTheClockFromSunriseAndSunset) {
   const struct {
     int hour, minute;
     const char* light;
@@ -56,6 +62,10 @@ TEST_F(BackgroundTest, ThePresentTimeIsTheLocationsAndTodayIsTheComputers) {
   LocationProfile[ProfileRow::TimeZone][1] = "-10";
   EXPECT_EQ(LightAt(9, 0), "n") << "5:00 there";
   EXPECT_EQ(LightAt(12, 0), "a");
+  // 20:00 here is 10:00 of the next day there: 16 hours after the sunset of the computer's day, though less
+  // than four before that of its own.
+  LocationProfile[ProfileRow::TimeZone][1] = "8";
+  EXPECT_EQ(LightAt(20, 0), "n");
   LocationProfile[ProfileRow::TimeZone][1] = "-5";
   // 23:30 here is 0:30 of the next day there, six hours after the sunset of the computer's day.
   EXPECT_EQ(LightAt(23, 30), "n");

@@ -2,6 +2,7 @@
 
 #include "core/mainform.h"
 #include "core/refresh.h"
+#include "feed/catalogues.h"
 #include "feed/forecast.h"
 #include "feed/observations.h"
 #include "forms/main_form.h"
@@ -74,6 +75,19 @@ class PageProducts : public Station {
   static std::string Picture(const ImageButton& button) {
     return button.PicturePath().substr(button.PicturePath().rfind('\\') + 1);
   }
+  // Everything that a page turns off is on before it.
+  static void TurnAllOn() {
+    for (ImageButton* button :
+         {&MainForm.LocalButton, &MainForm.NationalButton, &MainForm.AreaZoomButton, &MainForm.ZoomInButton,
+          &MainForm.ZoomOutButton, &MainForm.ResetButton, &MainForm.LegendButton, &MainForm.PlayButton,
+          &MainForm.StopButton, &MainForm.BackButton, &MainForm.NextButton}) {
+      button->Enabled = true;
+      button->SetPicture("on", 1, 1);
+    }
+    MainForm.Legend.Visible = true;
+    Browser.HourIndexMin = 7;
+    MainForm.ProgressBar.SetPosition(33, 22);
+  }
   static void ExpectMapButtonsOff() {
     const std::pair<const ImageButton*, const char*> buttons[] = {
         {&MainForm.LocalButton, "locald.gif"},     {&MainForm.NationalButton, "nationald.gif"},
@@ -119,13 +133,12 @@ TEST_F(PageProducts, EveryProductHidesThePointsOfTheMap) {
 TEST_F(PageProducts, TheHourlyPlannerListsItsFivePeriodsAndShowsTheFirst) {
   MainForm.Display1.Visible = true;
   MainForm.Display1.Zoom = 3.0;
-  MainForm.Legend.Visible = true;
+  TurnAllOn();
   for (Control* control : std::initializer_list<Control*>{&MainForm.LocationLabel,
                                                           &MainForm.LocationSelection, &MainForm.ProductTitle,
                                                           &MainForm.TimeSelection, &MainForm.TimeLabel}) {
     control->Enabled = false;
   }
-  Browser.HourIndexMin = 7;
   MainForm.ProductSelection.Select(0);
   EXPECT_EQ(MainForm.TimeSelection.Items(),
             (std::vector<std::string>{"Friday", "Friday Night", "Saturday", "Saturday Night", "Sunday"}));
@@ -207,14 +220,53 @@ TEST_F(PageProducts, TheHourlyPlannerWithoutAForecastListsNothing) {
   EXPECT_EQ(MainForm.Display2.Document.Get(), "old");
 }
 
+TEST_F(PageProducts, TheHourlyPlannerIsThatOfTheSelectedLocation) {
+  SetUpLocations(2);
+  SetUpForecast("3/8/2003 1:00:00 PM", -6);  // for both, then the first as it was
+  const auto second = ForecastHour[1];
+  SetUpForecast("3/7/2003 1:00:00 PM", -6);
+  ForecastHour[1] = second;
+  LocationProfile[ProfileRow::TimeZone][1] = "-6";
+  MainForm.ProductSelection.Select(0);
+  MainForm.LocationSelection.Select(1);
+  EXPECT_EQ(Title(), "Hourly Planner Saturday") << "the product is shown again for it";
+  EXPECT_EQ(MainForm.TimeSelection.Items()[4], "Monday");
+  EXPECT_EQ(Periods.HourIndex, 0) << "its forecast begins tomorrow";
+}
+
+TEST_F(PageProducts, AChangeOfTheLocationTouchesNoCounter) {
+  Refresh.CurrentTimer = Refresh.NexradTimer = Refresh.MessageTimer = 30;
+  Refresh.ForecastTimer = "60";
+  MainForm.LocationSelection.Select(0);
+  EXPECT_EQ(Refresh.CurrentTimer + Refresh.NexradTimer + Refresh.MessageTimer, 90);
+  EXPECT_EQ(Refresh.ForecastTimer, "60");
+}
+
+TEST_F(PageProducts, ACategoryLeadsToThePageOfItsFirstProduct) {
+  std::string elements;
+  for (const auto& [name, category] :
+       {std::pair{"Reflectivity", "0"}, {"Weekly Planner", "2"}, {"Hourly Planner", "2"}}) {
+    elements += Element("product", name) + Element("category", category) + Element("code", "url");
+  }
+  Doubles.Reply("products.", Reply(elements));
+  GetProductData();
+  MainForm.CategorySelection.Select(2);
+  EXPECT_EQ(MainForm.ProductSelection.Items(),
+            (std::vector<std::string>{"002 Weekly Planner", "003 Hourly Planner"}));
+  EXPECT_EQ(Browser.SelectedProduct, "Weekly Planner");
+  EXPECT_NE(MainForm.Display2.Document.Get().find("Weather Planner Extended"), std::string::npos);
+}
+
 TEST_F(PageProducts, TheWeeklyPlannerHasOneTimeAndOneFrame) {
   MainForm.ProductSelection.Select(0);
+  const int bar_end = MainForm.ProgressBar.Max;
+  TurnAllOn();
   MainForm.ProductSelection.Select(1);
   EXPECT_EQ(MainForm.TimeSelection.Items(), std::vector<std::string>{"03/07 thru 03/18"});
   EXPECT_EQ(MainForm.TimeSelection.ListIndex(), 0);
   EXPECT_EQ(Browser.HourIndexMin, 0);
   EXPECT_EQ(Periods.HourIndexMax, 0);
-  EXPECT_EQ(MainForm.ProgressBar.Max, 59) << "what the hourly planner left";
+  EXPECT_EQ(MainForm.ProgressBar.Max, bar_end) << "what the hourly planner left";
   EXPECT_EQ(MainForm.ProgressBar.Value, 0);
   EXPECT_EQ(Title(), "Weekly Planner");
   EXPECT_TRUE(MainForm.Display2.Visible);
@@ -225,6 +277,7 @@ TEST_F(PageProducts, TheWeeklyPlannerHasOneTimeAndOneFrame) {
 
 TEST_F(PageProducts, TheLast48HoursComeFromTheirFile) {
   MainForm.Display2.Document = "a planner";
+  TurnAllOn();
   MainForm.ProductSelection.Select(2);
   ASSERT_EQ(Doubles.requests.size(), 1u);
   EXPECT_NE(Doubles.requests[0].find("d=currenthistorical"), std::string::npos);

@@ -190,7 +190,21 @@ TEST_F(RefreshTest, WhileThePlayerRunsANewModelLeavesTheCategoryList) {
   EXPECT_EQ(MainForm.CategorySelection.Items(), std::vector<std::string>{"former"});
 }
 
+TEST_F(RefreshTest, AnErrorOfAnEarlierStepLosesTheLaterOnesOnceAndTheNextTickRunsThemAll) {
+  Bulletins.NWSAlertActive = 1;  // whose end sets its buttons, which nothing guards
+  Doubles.missing_pictures.insert("C:\\program files\\skyloft\\icons\\tornadod.gif");
+  Refresh.CurrentTimer = 15 * 60;
+  EXPECT_EQ(Ticks(1, "d=meta"), 0);
+  EXPECT_EQ(Refresh.MessageTimer, 0);
+  EXPECT_EQ(Refresh.CurrentTimer, 15 * 60) << "not even counted";
+  Doubles.missing_pictures.clear();
+  EXPECT_EQ(Ticks(1, "d=meta"), 1);
+  EXPECT_EQ(Refresh.MessageTimer, 30);
+}
+
 TEST_F(RefreshTest, AnErrorOfAStepThatNothingGuardsEndsTheTick) {
+  LocationProfile[ProfileRow::Latitude][0] = "38.97";
+  LocationProfile[ProfileRow::Longitude][0] = "-95.24";
   Doubles.Reply("d=meta", MetaReply({"s"}, "Mar 07 2003 06:00PM"));
   Doubles.Reply("products.", Reply(Element("menu", "Planners")));
   for (int h = 0; h < 66; ++h) ForecastHour[0][h].Desc = "unknown";  // summing up fails
@@ -228,6 +242,9 @@ TEST_F(RefreshTest, ABulletinOf240SecondsEndsAtTheEighthTick) {
   Bulletins.NWSAlertActive = 1;
   Bulletins.NWSAlertDuration = 240;
   Bulletins.TornadoAlertText = "TORNADO";
+  MainForm.ThunderstormButton.Enabled = MainForm.FloodButton.Enabled = true;
+  MainForm.ThunderstormButton.SetPicture("lit", 1, 1);
+  MainForm.FloodButton.SetPicture("lit", 1, 1);
   TickerForm.Visible = true;
   SystemOptionsForm.ShowTicker.Checked = false;
   Ticks(7, "");
@@ -245,6 +262,17 @@ TEST_F(RefreshTest, ABulletinOf240SecondsEndsAtTheEighthTick) {
   EXPECT_EQ(MainForm.ThunderstormButton.PicturePath(), icons + "tstormd.gif");
   EXPECT_FALSE(MainForm.FloodButton.Enabled);
   EXPECT_EQ(MainForm.FloodButton.PicturePath(), icons + "floodd.gif");
+}
+
+TEST_F(RefreshTest, EachButtonWithATextWaitsLitAfterItsBulletin) {
+  Bulletins.NWSAlertActive = 1;
+  Bulletins.ThunderstormAlertText = Bulletins.FloodAlertText = "WARNING";
+  Ticks(1, "");
+  const std::string icons = "C:\\program files\\skyloft\\icons\\";
+  EXPECT_EQ(MainForm.TornadoButton.PicturePath(), icons + "tornadod.gif");
+  EXPECT_EQ(MainForm.ThunderstormButton.PicturePath(), icons + "tstorms.gif");
+  EXPECT_EQ(MainForm.FloodButton.PicturePath(), icons + "floods.gif");
+  EXPECT_TRUE(MainForm.ThunderstormButton.Enabled && MainForm.FloodButton.Enabled);
 }
 
 TEST_F(RefreshTest, AnEndOfAnAlertLeavesTheTickerThatTheUserWants) {
@@ -298,11 +326,13 @@ TEST_F(RefreshTest, ARadarRefreshShowsTheFramesAndResetsThePlayersRangeOnlyInThe
     MainForm.CategorySelection.Select(category);
     MainForm.TimeSelection.Clear();
     Periods.HourIndexMax = 65;
+    Browser.HourIndexMin = 7;
     MainForm.ProductTitle.Caption = "before";
     Refresh.NexradTimer = 570;
     EXPECT_EQ(Ticks(1, "/radar/"), 0) << "the newest frame is fresh";
     EXPECT_EQ(Refresh.NexradTimer, 0);
     EXPECT_EQ(Periods.HourIndexMax, hours);
+    EXPECT_EQ(Browser.HourIndexMin, category == 1 ? 0 : 7);
     EXPECT_EQ(MainForm.ProductTitle.Caption.Get(), title);
     EXPECT_EQ(MainForm.Thumbnail.PicturePath(),
               "C:\\program files\\skyloft\\temp\\nexr.ktw0.030720032000.png");
@@ -325,8 +355,9 @@ TEST_F(RefreshTest, AFileThatCannotBeDeletedEndsTheCleaningAndDeletionsMadeStand
   PutFile("b.gif", 721);
   PutFile("c.gif", 721);
   Doubles.file_failure.at = 2;  // the second deletion
-  EXPECT_EQ(Ticks(1, ""), 0);
+  Ticks(1, "");
   EXPECT_EQ(Files(), (std::vector<std::string>{"b.gif", "c.gif"}));
+  EXPECT_EQ(Refresh.MessageTimer, 30) << "the tick goes on";
 }
 
 TEST_F(RefreshTest, TheClockTellsTheLocationsTimeWithItsZone) {
@@ -399,6 +430,7 @@ TEST_F(RefreshTest, AClockTickRunsInsideAFetchOfARefreshAndARefreshDoesNotEnterI
   Refresh.CurrentTimer = 15 * 60 - 30;
   Ticks(1, "");
   EXPECT_EQ(refreshes, 1);
+  EXPECT_EQ(Refresh.NexradTimer, 30) << "one tick was counted";
 }
 
 }  // namespace

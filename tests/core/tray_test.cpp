@@ -99,12 +99,15 @@ TEST_F(Tray, OnANewSystemTheIconsJoinFromTheLastToTheFirstElseTheOtherWayRound) 
 }
 
 TEST_F(Tray, APrimaryClickShowsTheWindowAboveTheOthersForAMoment) {
+  Chrome.MainWindow.SetClient(&MainForm);
+  Chrome.TickerWindow.SetClient(&TickerForm);
   for (int i = 0; i < 3; ++i) {
     MainForm.Visible = false;
     Doubles.activated.clear();
     MainForm.SysTray[i].Click();
     EXPECT_TRUE(MainForm.Visible);
     EXPECT_EQ(Doubles.activated, std::vector<std::string>{"MainForm"});
+    EXPECT_TRUE(Doubles.activated_on_top);
     EXPECT_FALSE(MainForm.TopMost());
     EXPECT_FALSE(TickerForm.TopMost());
   }
@@ -125,8 +128,8 @@ TEST_F(Tray, ASecondaryClickOpensTheMenuWithAnEntryForEachHiddenWindow) {
       MainForm.Visible = main;
       TickerForm.Visible = ticker;
       Doubles.menus.clear();
-      MainForm.SysTray[2].SecondaryClick();
-      EXPECT_EQ(Doubles.menus, std::vector<std::string>{"Options"});
+      for (int i = 0; i < 3; ++i) MainForm.SysTray[i].SecondaryClick();
+      EXPECT_EQ(Doubles.menus, (std::vector<std::string>(3, "Options")));
       EXPECT_EQ(MenuForm.ShowSkyloft.Visible, !main);
       EXPECT_EQ(MenuForm.ShowTicker.Visible, !ticker);
       EXPECT_EQ(MenuForm.Line3.Visible, !(main && ticker));

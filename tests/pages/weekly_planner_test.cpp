@@ -50,6 +50,7 @@ class WeeklyPlanner : public Station {
       columns.push_back(halves[0][i]);
       columns.push_back(halves[1][i]);
     }
+    columns.resize(24);  // a page without its rows has empty columns
     return columns;
   }
   // The text of a cell, without its tags.
@@ -184,10 +185,18 @@ TEST_F(WeeklyPlanner, ThePositionBarEndsWhereTheFormerProductDid) {
   EXPECT_EQ(MainForm.ProgressBar.Value, 0);
 }
 
-TEST_F(WeeklyPlanner, ThePeriodsOfAllLocationsAreSummedUpAnew) {
+TEST_F(WeeklyPlanner, ThePeriodsOfAllLocationsAreSummedUpAnewAndTheSelectedOneIsShown) {
+  SetUpLocations(2);
+  SetUpForecast("3/7/2003 1:00:00 PM", -6);
+  for (int h = 0; h < 66; ++h) ForecastHour[1][h].Tf = "77";
+  ForecastDay[1][0].Tl = "second";
   ForecastPeriod = {};
+  Settings.Location = "1";
   WeatherPlannerWeekly();
   EXPECT_EQ(ForecastPeriod[0][4].Temperature, "40 F");
+  EXPECT_EQ(ForecastPeriod[1][4].Temperature, "77 F");
+  EXPECT_EQ(Cells("Temp")[4], "77 ");
+  EXPECT_EQ(Cells("Temp")[5], "second");
 }
 
 TEST_F(WeeklyPlanner, AnyFailureKeepsTheOldPage) {

@@ -11,7 +11,10 @@ void StartWindowDrag(Form&) { ++Doubles.drags; }
 void ShowSystemMenu(Form& form, int x, int y) {
   Doubles.system_menus.push_back(form.Name() + " " + std::to_string(x) + " " + std::to_string(y));
 }
-void ActivateWindow(Form& form) { Doubles.activated.push_back(form.Name()); }
+void ActivateWindow(Form& form) {
+  Doubles.activated.push_back(form.Name());
+  Doubles.activated_on_top = form.TopMost();
+}
 void PopUpMenu(Form&, MenuItem& menu) { Doubles.menus.push_back(menu.Name()); }
 
 BoxAnswer ShowBox(BoxKind kind, const std::string& text) {

@@ -71,6 +71,7 @@ struct DoublesState {
   std::vector<std::string> menus;
   std::vector<std::string> system_menus;
   std::vector<std::string> activated;
+  bool activated_on_top = false;  // whether the window activated last was above all others then
   std::vector<std::pair<BoxKind, std::string>> boxes;
   std::deque<BoxAnswer> answers;
   std::vector<std::string> links;

@@ -100,9 +100,14 @@ TEST_F(PeriodsTest, NamesComeFromTheSelectedLocationForAllAndWeatherFromEachOne)
     ForecastHour[1][h].Tf = "70";
     ForecastHour[1][h].Lt = "Jan 01 1999 02:00PM";
   }
+  Settings.Location = "1";
   GetPeriod(0);
-  EXPECT_EQ(Days(1), Days(0));
-  EXPECT_EQ(Dates(1), Dates(0));
+  EXPECT_EQ(Days(0), "Fri Night,Sat,Sat Night,Sun,Sun Night,") << "1 January 1999 was a Friday";
+  EXPECT_EQ(Dates(0), "01/01,01/01,01/01,01/01,01/01,");
+  Settings.Location = "0";
+  GetPeriod(0);
+  EXPECT_EQ(Days(1), "Thu Night,Fri,Fri Night,Sat,Sat Night,");
+  EXPECT_EQ(Dates(1), "03/07,03/07,03/08,03/08,03/09,");
   EXPECT_EQ(ForecastPeriod[0][0].Temperature, "40 F");
   EXPECT_EQ(ForecastPeriod[1][0].Temperature, "70 F");
 }
@@ -235,6 +240,18 @@ TEST_F(PeriodsTest, TheHourToComeIsFoundInTheLocationsOwnTime) {
   LocationProfile[ProfileRow::Dst][0] = "1";
   SetHourIndex();
   EXPECT_EQ(Periods.HourIndex, 9);
+}
+
+TEST_F(PeriodsTest, TheHourToComeIsThatOfTheSelectedLocation) {
+  SetUpForecast("3/7/2003 1:00:00 PM", -6);
+  Settings.Location = "1";
+  LocationProfile[ProfileRow::TimeZone][0] = "-6";
+  LocationProfile[ProfileRow::TimeZone][1] = "-8";  // 12:05 there
+  SetHourIndex();
+  EXPECT_EQ(Periods.HourIndex, 6) << "13:00";
+  ForecastHour[1][40].Lt = "Mar 07 2003 01:30PM";
+  SetHourIndex();
+  EXPECT_EQ(Periods.HourIndex, 40) << "by its own table";
 }
 
 TEST_F(PeriodsTest, AForecastOlderThanItsHoursLeavesTheFirst) {

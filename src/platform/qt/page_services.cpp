@@ -21,7 +21,9 @@ QString LocalFile(const QString& path) {
   return file ? *file : QString();
 }
 
-QByteArray OwnSheet(const QString& url) { return url == kStyleSheet ? QByteArray(kSharedStyle) : QByteArray(); }
+QByteArray OwnSheet(const QString& url) {
+  return url == kStyleSheet ? QByteArray(kSharedStyle) : QByteArray();
+}
 
 void FetchForPage(const QString& url, const std::function<void(QByteArray)>& done) {
   FetchLater(FromQt(url), [done](const std::string& reply) { done(QByteArray::fromStdString(reply)); });

@@ -38,8 +38,8 @@ ViewOfIcon MakeView(TrayIcon& model) {
   auto icon = std::make_unique<QSystemTrayIcon>();
   QObject::connect(icon.get(), &QSystemTrayIcon::activated, icon.get(),
                    [&model](QSystemTrayIcon::ActivationReason reason) {
-                     const bool secondary = reason == QSystemTrayIcon::Context;
-                     Raise([&] { Fire(secondary ? model.SecondaryClick : model.Click); });
+                     if (reason == QSystemTrayIcon::Trigger) Raise([&] { Fire(model.Click); });
+                     if (reason == QSystemTrayIcon::Context) Raise([&] { Fire(model.SecondaryClick); });
                    });
   return {&model, std::move(icon)};
 }

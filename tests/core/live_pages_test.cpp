@@ -1,0 +1,79 @@
+// The planners on show, made of the feed's own replies.
+#include <gtest/gtest.h>
+
+#include "core/live_station.h"
+#include "core/mainform.h"
+#include "core/refresh.h"
+
+namespace skyloft {
+namespace {
+
+std::vector<std::string> TextsOf(const std::string& reply, const std::string& tag) {
+  std::vector<std::string> texts;
+  const std::string open = "<" + tag + ">";
+  for (size_t at = reply.find(open); at != std::string::npos; at = reply.find(open, at + 1)) {
+    const size_t start = at + open.size();
+    texts.push_back(reply.substr(start, reply.find('<', start) - start));
+  }
+  return texts;
+}
+
+// The texts of a page's cells between two marks, in order.
+std::vector<std::string> CellsOf(const std::string& page, const std::string& label) {
+  std::vector<std::string> cells;
+  const size_t row = page.find(">" + label + "</td>");
+  const size_t end = page.find("</tr>", row);
+  for (size_t at = page.find("<b>", row); at < end; at = page.find("<b>", at + 1)) {
+    cells.push_back(page.substr(at + 3, page.find('<', at + 3) - at - 3));
+  }
+  return cells;
+}
+
+class LivePages : public LiveStation {
+ protected:
+  std::string Ask(const std::string& query) const {
+    return feed::BodyOf(feed::Get(server->Port(), "/forecast.asp?pc=" + zips[0] + query));
+  }
+  static void RefreshAll() {
+    Refresh.CurrentTimer = 1e6;
+    Refresh.ForecastTimer = "1000000";
+    MainForm.UpdateTimer.Elapse();
+  }
+};
+
+TEST_F(LivePages, EveryModelRunGivesBothPlannersOfTheSelectedTown) {
+  LocationProfile[ProfileRow::TimeZone][0] = "-6";
+  SaveSystem();
+  MainForm.LocationSelection.Clear();
+  LoadMainForm();
+  // Up to the night in which the feed's town goes over to daylight time.
+  for (int hours = 0; hours <= 36; hours += 6) {
+    const Date now = DateAdd(DateUnit::Hours, hours, start);
+    MoveTo(now);
+    RefreshAll();
+    MainForm.CategorySelection.Select(0);
+    ASSERT_EQ(MainForm.ProductSelection.Text(), "001 Hourly Planner");
+    const std::string reply = Ask("&st=1%2F1%2F2000+0%3A00%3A00+AM&et=12%2F31%2F2100+12%3A00%3A00+AM&t=xml");
+    const auto stamps = TextsOf(reply, "Ut"), temperatures = TextsOf(reply, "Tf");
+    // The hour after the present one, which is the same moment everywhere.
+    const Date next = DateAdd(DateUnit::Hours, 1, now);
+    size_t place = 0;
+    while (place < stamps.size() && ReadDate(stamps[place]) != next) ++place;
+    ASSERT_LT(place + 12, stamps.size());
+    const auto shown = CellsOf(MainForm.Display2.Document, "Temp");
+    ASSERT_EQ(shown.size(), 12u) << "at " << DateText(now);
+    for (size_t i = 0; i < 12; ++i)
+      EXPECT_EQ(shown[i], temperatures[place + i]) << i << " at " << DateText(now);
+
+    MainForm.ProductSelection.Select(1);
+    const std::string page = MainForm.Display2.Document;
+    EXPECT_NE(page.find("Weather Planner Extended"), std::string::npos) << "at " << DateText(now);
+    const auto days = CellsOf(page, "Day"), dates = CellsOf(page, "Date");
+    ASSERT_EQ(days.size(), 12u);
+    for (size_t i = 0; i < 12; ++i) EXPECT_NE(days[i] + "|" + dates[i], "|") << i;
+    EXPECT_EQ(MainForm.TimeSelection.Text(), dates[0] + " thru " + dates[11]);
+  }
+}
+
+}  // namespace
+}  // namespace skyloft
