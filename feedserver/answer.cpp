@@ -3,6 +3,9 @@
 #include <array>
 #include <string_view>
 
+#include "feedserver/places.h"
+#include "feedserver/query.h"
+#include "feedserver/radar.h"
 #include "feedserver/replies.h"
 #include "feedserver/xml.h"
 
@@ -52,7 +55,28 @@ Reply Answer(const Request& request, const World& world) {
   if (path == "/bulletins.asp") return XmlReply(EmptyXml("bulletins"));
   if (IsMessages(path)) return XmlReply(EmptyXml("messages"));
   if (path == "/skltupdate.exe") return AnswerUpdate(world);
+  if (auto picture = PictureReply(path, request.now, world.seed)) return *std::move(picture);
   return AnswerCatalogue(path);
+}
+
+std::vector<Request> RequestsAfter(const Request& request) {
+  std::vector<Request> requests;
+  const Query query(request.query);
+  if (request.path != "/forecast.asp" || query.First("d") != "meta") return requests;
+  for (const std::string_view postal_code : query.All("pc")) {
+    const Place* const place = FindPlace(postal_code);
+    if (place) {
+      requests.push_back(
+          {RadarPath({RadarProduct::Reflectivity, &place->radar}), "", RadarTime(request.now)});
+    }
+  }
+  return requests;
+}
+
+std::optional<Request> ExpectedForm(const Request& request) {
+  const auto radar = ReadRadarPath(request.path);
+  if (!radar) return {};
+  return Request{request.path, "", RadarTime(request.now)};
 }
 
 }  // namespace skyloft::feed

@@ -24,7 +24,7 @@ constexpr std::array<Place, 12> kPlaces = {{
      -6,
      true,
      "TOP",
-     {"TWX", {38.997, -96.233}},
+     {"KTWX", {38.997, -96.233}},
      "Lawrence Municipal Airport",
      4},
     {"33131",
@@ -37,7 +37,7 @@ constexpr std::array<Place, 12> kPlaces = {{
      -5,
      true,
      "MFL",
-     {"AMX", {25.611, -80.413}},
+     {"KAMX", {25.611, -80.413}},
      "Miami International Airport",
      15},
     {"80202",
@@ -50,7 +50,7 @@ constexpr std::array<Place, 12> kPlaces = {{
      -7,
      true,
      "BOU",
-     {"FTG", {39.787, -104.546}},
+     {"KFTG", {39.787, -104.546}},
      "Denver International Airport",
      11},
     {"98101",
@@ -63,7 +63,7 @@ constexpr std::array<Place, 12> kPlaces = {{
      -8,
      true,
      "SEW",
-     {"ATX", {48.195, -122.496}},
+     {"KATX", {48.195, -122.496}},
      "Seattle Boeing Field",
      0},
     {"04101",
@@ -76,7 +76,7 @@ constexpr std::array<Place, 12> kPlaces = {{
      -5,
      true,
      "GYX",
-     {"GYX", {43.891, -70.256}},
+     {"KGYX", {43.891, -70.256}},
      "Portland International Jetport",
      7},
     {"85003",
@@ -89,7 +89,7 @@ constexpr std::array<Place, 12> kPlaces = {{
      -7,
      false,
      "PSR",
-     {"IWA", {33.289, -111.670}},
+     {"KIWA", {33.289, -111.670}},
      "Phoenix Sky Harbor Airport",
      14},
     {"99501",
@@ -102,7 +102,7 @@ constexpr std::array<Place, 12> kPlaces = {{
      -9,
      true,
      "AFC",
-     {"AHG", {60.726, -151.351}},
+     {"PAHG", {60.726, -151.351}},
      "Anchorage Merrill Field",
      17},
     {"96813",
@@ -115,7 +115,7 @@ constexpr std::array<Place, 12> kPlaces = {{
      -10,
      false,
      "HFO",
-     {"HMO", {21.133, -157.180}},
+     {"PHMO", {21.133, -157.180}},
      "Honolulu International Airport",
      13},
     {"00901",
@@ -128,7 +128,7 @@ constexpr std::array<Place, 12> kPlaces = {{
      -4,
      false,
      "SJU",
-     {"JUA", {18.116, -66.078}},
+     {"TJUA", {18.116, -66.078}},
      "Luis Munoz Marin Airport",
      18},
     {"60601",
@@ -141,7 +141,7 @@ constexpr std::array<Place, 12> kPlaces = {{
      -6,
      true,
      "LOT",
-     {"LOT", {41.604, -88.085}},
+     {"KLOT", {41.604, -88.085}},
      "Chicago Midway Airport",
      9},
     {"10001",
@@ -154,7 +154,7 @@ constexpr std::array<Place, 12> kPlaces = {{
      -5,
      true,
      "OKX",
-     {"OKX", {40.866, -72.864}},
+     {"KOKX", {40.866, -72.864}},
      "Central Park",
      2},
     {"90012",
@@ -167,7 +167,7 @@ constexpr std::array<Place, 12> kPlaces = {{
      -8,
      true,
      "LOX",
-     {"VTX", {34.412, -119.179}},
+     {"KVTX", {34.412, -119.179}},
      "Los Angeles Downtown",
      5},
 }};
@@ -194,6 +194,8 @@ Date SundayOf(int year, int month, int number) {
 
 }  // namespace
 
+std::span<const Place> Places() { return kPlaces; }
+
 const Place* FindPlace(std::string_view postal_code) {
   return FindFirst([&](const Place& place) { return place.postal_code == TrimText(postal_code); });
 }
@@ -203,6 +205,12 @@ const Place* FindPlace(std::string_view city, std::string_view state) {
   return FindFirst([&](const Place& place) {
     return UpperCase(place.city) == wanted_city && place.state == wanted_state;
   });
+}
+
+const RadarSite* FindRadarSite(std::string_view code) {
+  const Place* const place =
+      FindFirst([&](const Place& candidate) { return candidate.radar.code == UpperCase(code); });
+  return place ? &place->radar : nullptr;
 }
 
 const Place& NearestPlace(Point point) {

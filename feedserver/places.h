@@ -1,6 +1,7 @@
 // The towns that the server knows, and the clock there.
 #pragma once
 
+#include <span>
 #include <string_view>
 
 #include "base/dates.h"
@@ -9,7 +10,7 @@
 namespace skyloft::feed {
 
 struct RadarSite {
-  std::string_view code;
+  std::string_view code;  // four letters: "KTWX"
   Point point;
 };
 
@@ -24,9 +25,12 @@ struct Place {
   int minute;                // of the observations past the full hour, past 20 and past 40
 };
 
+std::span<const Place> Places();
 // Null when there is no such place. City and state are compared without case and outer blanks.
 const Place* FindPlace(std::string_view postal_code);
 const Place* FindPlace(std::string_view city, std::string_view state);
+// Null when no place has it; case does not matter.
+const RadarSite* FindRadarSite(std::string_view code);
 // The place nearest to a point.
 const Place& NearestPlace(Point point);
 

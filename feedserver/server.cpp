@@ -11,6 +11,7 @@
 #include <thread>
 
 #include "base/guard.h"
+#include "feedserver/ahead.h"
 
 namespace skyloft::feed {
 namespace {
@@ -183,12 +184,17 @@ class Server::Http : public httplib::Server {
     response.set_header("Content-Type", reply.type);
   }
 
-  Reply AnswerOrFail(const httplib::Request& request, const Request& asked) const {
+  Reply AnswerOrFail(const httplib::Request& request, const Request& asked) {
     if (request.method != "GET" && request.method != "HEAD") {
       return {.status = 405, .type = "text/plain", .body = "only GET is answered\n"};
     }
     Reply reply;
-    if (Guarded([&] { reply = Answer(asked, service_.world); })) return reply;
+    const auto answer = [&] {
+      const auto expected = ExpectedForm(asked);
+      reply = expected ? ahead_.Answer(*expected) : Answer(asked, service_.world);
+      ahead_.Expect(RequestsAfter(asked));
+    };
+    if (Guarded(answer)) return reply;
     return {.status = 500, .type = "text/plain", .body = "server error\n"};
   }
 
@@ -205,6 +211,7 @@ class Server::Http : public httplib::Server {
   }
 
   Service service_;
+  Ahead ahead_{[this](const Request& request) { return Answer(request, service_.world); }};
   socket_t listener_ = -1;
   int port_ = -1;
 };

@@ -9,7 +9,7 @@
 namespace skyloft::feed {
 namespace {
 
-constexpr std::string_view kRadarServer = "radar.skyloft.example";
+constexpr std::string_view kRadarServer = "http://radar.skyloft.example";
 
 struct Host {
   std::string_view tag, address;

@@ -47,11 +47,11 @@ class Field {
     const double x = (point.longitude - drift * days_) / pattern.cell;
     const double y = point.latitude / pattern.cell;
     const double t = days_ * 24 / pattern.hours;
+    const std::uint64_t bits = Scatter(seed_ + pattern.channel);
     double value = 0;
     for (int corner = 0; corner < 8; ++corner) {
-      value +=
-          Share(x, corner & 1) * Share(y, corner >> 1 & 1) * Share(t, corner >> 2 & 1) *
-          Corner(pattern.channel, Step(x, corner & 1), Step(y, corner >> 1 & 1), Step(t, corner >> 2 & 1));
+      value += Share(x, corner & 1) * Share(y, corner >> 1 & 1) * Share(t, corner >> 2 & 1) *
+               Corner(bits, Step(x, corner & 1), Step(y, corner >> 1 & 1), Step(t, corner >> 2 & 1));
     }
     return value;
   }
@@ -64,8 +64,7 @@ class Field {
     return up ? share : 1 - share;
   }
 
-  double Corner(std::uint64_t channel, std::int64_t x, std::int64_t y, std::int64_t t) const {
-    std::uint64_t bits = Scatter(seed_ + channel);
+  static double Corner(std::uint64_t bits, std::int64_t x, std::int64_t y, std::int64_t t) {
     for (const std::int64_t step : {x, y, t}) bits = Scatter(bits + static_cast<std::uint64_t>(step));
     return static_cast<double>(bits >> 11) * 0x1p-52 - 1;
   }
@@ -140,15 +139,45 @@ Fall FallAt(double temperature, double warm_layer) {
   return Fall::Snow;
 }
 
-// Rain and snow of a wetness above what the air holds. `cells` are the single clouds of a convective day.
-void LetFall(const Field& field, Point point, double wetness, double cells, Weather& weather) {
-  const double heat = SmoothStep(58, 84, weather.temperature);
-  const double lift = wetness + 0.5 * heat * cells;
-  const double rate = 0.8 * std::pow(std::max(0.0, lift - 0.42), 1.4);  // inches of water an hour
-  if (rate < 0.01) return;
+// What decides whether anything falls.
+struct Air {
+  double pressure;     // inches of mercury
+  double cells;        // -1 to 1: the single clouds of a convective day
+  double wetness;      // above what the air holds
+  double cloud;        // share of the sky
+  double day_mean;     // Fahrenheit
+  double temperature;  // Fahrenheit
+};
+
+Air AirAt(const Field& field, Point point, Date gmt) {
+  Air air;
+  air.pressure = PressureAt(field, point);
+  air.cells = field.Value(kCells, point);
+  air.wetness = 0.9 * field.Value(kMoisture, point) - (air.pressure - 29.98) + 0.15 * air.cells;
+  air.cloud = SmoothStep(-0.45, 0.4, air.wetness);
+
+  air.day_mean = SeasonalMean(point, gmt) + 15 * field.Value(kAirMasses, point);
+  const double day_curve = std::cos(2 * pi * (SolarHour(point, gmt) - 15) / 24);  // warmest at three
+  const double swing = DailySwing(point, gmt) * (1 - 0.6 * air.cloud);
+  air.temperature = std::clamp(air.day_mean + swing * day_curve, -60.0, 125.0);
+  return air;
+}
+
+double HeatOf(const Air& air) { return SmoothStep(58, 84, air.temperature); }
+
+// Inches of water an hour; less than a hundredth is nothing.
+double WaterOf(const Air& air) {
+  const double lift = air.wetness + 0.5 * HeatOf(air) * air.cells;
+  const double rate = 0.8 * std::pow(std::max(0.0, lift - 0.42), 1.4);
+  return rate < 0.01 ? 0 : rate;
+}
+
+void LetFall(const Field& field, Point point, const Air& air, Weather& weather) {
+  const double rate = WaterOf(air);
+  if (rate == 0) return;
   weather.fall = FallAt(weather.temperature, field.Value(kWarmLayers, point));
-  weather.is_shower = cells > 0.25 && wetness < 0.55;
-  weather.thunder = heat * SmoothStep(0.2, 0.7, cells);
+  weather.is_shower = air.cells > 0.25 && air.wetness < 0.55;
+  weather.thunder = HeatOf(air) * SmoothStep(0.2, 0.7, air.cells);
   const double depth_ratio = weather.temperature < 20 ? 15 : 10;  // of fresh snow to its water
   const bool is_mixed = weather.fall == Fall::RainAndSnow || weather.fall == Fall::FreezingRainAndSnow;
   const double snow_share = weather.fall == Fall::Snow ? 1 : is_mixed ? 0.5 : 0;
@@ -174,28 +203,26 @@ double ApparentTemperature(const Weather& weather) {
 
 Weather WeatherAt(Point point, Date gmt, std::uint64_t seed) {
   const Field field(gmt, seed);
+  const Air air = AirAt(field, point, gmt);
   Weather weather;
-  weather.pressure = PressureAt(field, point);
+  weather.pressure = air.pressure;
+  weather.cloud = air.cloud;
+  weather.temperature = air.temperature;
   BlowWind(field, point, weather);
+  LetFall(field, point, air, weather);
 
-  const double cells = field.Value(kCells, point);
-  const double wetness = 0.9 * field.Value(kMoisture, point) - (weather.pressure - 29.98) + 0.15 * cells;
-  weather.cloud = SmoothStep(-0.45, 0.4, wetness);
-
-  const double day_mean = SeasonalMean(point, gmt) + 15 * field.Value(kAirMasses, point);
-  const double day_curve = std::cos(2 * pi * (SolarHour(point, gmt) - 15) / 24);  // warmest at three
-  const double swing = DailySwing(point, gmt) * (1 - 0.6 * weather.cloud);
-  weather.temperature = std::clamp(day_mean + swing * day_curve, -60.0, 125.0);
-  LetFall(field, point, wetness, cells, weather);
-
-  const double dryness = 4 + 26 * (1 - SmoothStep(-0.6, 0.5, wetness));
-  const double dew_point = std::min(day_mean - dryness, weather.temperature - 0.5);
+  const double dryness = 4 + 26 * (1 - SmoothStep(-0.6, 0.5, air.wetness));
+  const double dew_point = std::min(air.day_mean - dryness, weather.temperature - 0.5);
   const double wettest = weather.temperature - (weather.fall == Fall::None ? dryness + 25 : 3);
   weather.dew_point = std::max(dew_point, wettest);
   weather.humidity = RelativeHumidity(weather.temperature, weather.dew_point);
   FindVisibility(weather);
   weather.apparent = ApparentTemperature(weather);
   return weather;
+}
+
+double WaterAt(Point point, Date gmt, std::uint64_t seed) {
+  return WaterOf(AirAt(Field(gmt, seed), point, gmt));
 }
 
 Normals NormalsAt(Point point, Date gmt) {

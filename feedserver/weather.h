@@ -34,6 +34,8 @@ struct Weather {
 };
 
 Weather WeatherAt(Point point, Date gmt, std::uint64_t seed);
+// Inches of water an hour in the rain and snow of that weather: the same field, for those who ask often.
+double WaterAt(Point point, Date gmt, std::uint64_t seed);
 
 // The usual highest and lowest temperature of the day around a moment, Fahrenheit.
 struct Normals {

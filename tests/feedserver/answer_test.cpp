@@ -58,10 +58,10 @@ TEST(Answer, LocationTellsAllAboutAPlace) {
                              {"latitude", "38.9717"},
                              {"longitude", "-95.2353"},
                              {"nws_office", "TOP"},
-                             {"radar_station_code", "TWX"},
+                             {"radar_station_code", "KTWX"},
                              {"radar_station_lat", "38.997"},
                              {"radar_station_long", "-96.233"},
-                             {"nws_radar_server", "radar.skyloft.example"},
+                             {"nws_radar_server", "http://radar.skyloft.example"},
                              {"state_long", "Kansas"},
                              {"dst_ind", "0"}};
   EXPECT_EQ(Ask("/location_setup.asp", "pc=66044&t=xml"), expected);

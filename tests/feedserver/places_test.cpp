@@ -16,7 +16,7 @@ TEST(Places, AreFoundByPostalCode) {
   EXPECT_EQ(place->city, "Lawrence");
   EXPECT_EQ(place->county, "Douglas");
   EXPECT_EQ(place->office, "TOP");
-  EXPECT_EQ(place->radar.code, "TWX");
+  EXPECT_EQ(place->radar.code, "KTWX");
   EXPECT_FALSE(FindPlace("99999"));
   EXPECT_FALSE(FindPlace(""));
 }

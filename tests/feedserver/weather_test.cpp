@@ -88,6 +88,18 @@ TEST(Weather, WhatFallsFitsTheTemperature) {
   EXPECT_GT(dry, 5 * falls / 2);  // fair weather is the rule
 }
 
+TEST(Weather, WaterIsThatOfRainAndSnow) {
+  for (int latitude = 20; latitude <= 70; ++latitude) {
+    for (int longitude = -130; longitude <= -60; longitude += 5) {
+      const Point point{static_cast<double>(latitude), static_cast<double>(longitude)};
+      const Weather weather = WeatherAt(point, kNoon, 8);
+      const double water = WaterAt(point, kNoon, 8);
+      const double snow_ratio = weather.temperature < 20 ? 15 : 10;  // inches of snow to one of water
+      EXPECT_NEAR(water, weather.rain + weather.snow / snow_ratio, 1e-12) << latitude << ' ' << longitude;
+    }
+  }
+}
+
 TEST(Weather, ChangesSlowly) {
   const Point lawrence{38.97, -95.24};
   for (int hour = 0; hour < 24 * 14; ++hour) {
