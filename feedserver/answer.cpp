@@ -1,9 +1,9 @@
 #include "feedserver/answer.h"
 
-#include <array>
 #include <string_view>
 
 #include "feedserver/places.h"
+#include "feedserver/products.h"
 #include "feedserver/query.h"
 #include "feedserver/radar.h"
 #include "feedserver/replies.h"
@@ -11,8 +11,6 @@
 
 namespace skyloft::feed {
 namespace {
-
-constexpr std::array<std::string_view, 4> kRunHours = {"00", "06", "12", "18"};
 
 Reply XmlReply(std::string body) { return {.body = std::move(body)}; }
 Reply NotFound() { return {.status = 404, .type = "text/plain", .body = "not found\n"}; }
@@ -37,12 +35,13 @@ Reply AnswerUpdate(const World& world) {
 }
 
 Reply AnswerCatalogue(std::string_view path) {
-  for (const std::string_view hour : kRunHours) {
-    const std::string run = std::string(hour) + "z.sys";
-    if (path == "/sectors." + run) return XmlReply(SectorsXml());
-    if (path == "/products." + run + ".4") return XmlReply(ProductsXml(hour));
-  }
-  return NotFound();
+  constexpr std::string_view sectors = "/sectors.", products = "/products.";
+  const bool is_products = path.starts_with(products);
+  if (!is_products && !path.starts_with(sectors)) return NotFound();
+  path.remove_prefix(is_products ? products.size() : sectors.size());
+  const std::string_view hour = path.substr(0, 2);
+  if (!IsRunHour(hour) || path.substr(2) != (is_products ? "z.sys.4" : "z.sys")) return NotFound();
+  return XmlReply(is_products ? ProductsXml(hour) : SectorsXml());
 }
 
 }  // namespace
@@ -56,6 +55,7 @@ Reply Answer(const Request& request, const World& world) {
   if (IsMessages(path)) return XmlReply(EmptyXml("messages"));
   if (path == "/skltupdate.exe") return AnswerUpdate(world);
   if (auto picture = PictureReply(path, request.now, world.seed)) return *std::move(picture);
+  if (auto page = PageReply(path)) return *std::move(page);
   return AnswerCatalogue(path);
 }
 

@@ -14,15 +14,16 @@ struct KindName {
   FaultKind kind;
 };
 
-constexpr std::array<KindName, 9> kKindNames = {{{"refuse", FaultKind::Refuse},
-                                                 {"500", FaultKind::ServerError},
-                                                 {"empty", FaultKind::Empty},
-                                                 {"cut", FaultKind::Cut},
-                                                 {"garbage", FaultKind::Garbage},
-                                                 {"hang", FaultKind::Hang},
-                                                 {"drip", FaultKind::Drip},
-                                                 {"huge", FaultKind::Huge},
-                                                 {"wrong-count", FaultKind::WrongCount}}};
+constexpr std::array<KindName, 10> kKindNames = {{{"refuse", FaultKind::Refuse},
+                                                  {"500", FaultKind::ServerError},
+                                                  {"empty", FaultKind::Empty},
+                                                  {"cut", FaultKind::Cut},
+                                                  {"garbage", FaultKind::Garbage},
+                                                  {"hang", FaultKind::Hang},
+                                                  {"drip", FaultKind::Drip},
+                                                  {"huge", FaultKind::Huge},
+                                                  {"bomb", FaultKind::Bomb},
+                                                  {"wrong-count", FaultKind::WrongCount}}};
 
 constexpr std::size_t kHugeSize = 64u << 20;
 
@@ -69,11 +70,22 @@ std::string WithHugeSize(std::string_view body) {
   return huge += end;
 }
 
-// Every byte value, none of which begins a document.
+// Every byte value, none of which begins a document or a picture.
 std::string Garbage() {
   std::string garbage;
   for (int i = 255; i >= 0; --i) garbage += static_cast<char>(i);
   return garbage;
+}
+
+// A GIF whose header tells of 60000 by 60000 pixels of two colours; of its data there is the beginning of a
+// row.
+std::string Bomb() {
+  constexpr unsigned char bytes[] = {'G',  'I', 'F',  '8',  '9',  'a',  0x60, 0xEA, 0x60, 0xEA,
+                                     0x80, 0,                                                 // the screen
+                                     0,    0,   0,    0,    255,  255,  255,                  // its colours
+                                     0x2C, 0,   0,    0,    0,    0x60, 0xEA, 0x60, 0xEA, 0,  // the picture
+                                     2,    4,   0x84, 0x8F, 0xA9, 0xCB, 0,    0x3B};  // its data and the end
+  return {std::begin(bytes), std::end(bytes)};
 }
 
 }  // namespace
@@ -113,6 +125,7 @@ Reply Spoil(FaultKind kind, Reply reply) {
     case FaultKind::ServerError: return {.status = 500, .type = "text/plain", .body = "server error\n"};
     case FaultKind::Empty: reply.body.clear(); break;
     case FaultKind::Garbage: reply.body = Garbage(); break;
+    case FaultKind::Bomb: return {.type = "image/gif", .body = Bomb()};
     case FaultKind::Huge: reply.body = WithHugeSize(reply.body); break;
     case FaultKind::WrongCount: reply.body = WithWrongCounts(reply.body); break;
     default: break;

@@ -16,10 +16,11 @@ enum class FaultKind {
   ServerError,  // status 500
   Empty,        // 200 without a body
   Cut,          // half of the body under the full Content-Length
-  Garbage,      // 200 with bytes that are not XML
+  Garbage,      // 200 with bytes that are neither XML nor a picture
   Hang,         // accepted, never answered
   Drip,         // a byte each 100 ms
   Huge,         // 64 MB of valid XML
+  Bomb,         // 200 with a picture of 60000 by 60000 pixels in a few bytes
   WrongCount    // tags left out and doubled, so that their counts do not fit
 };
 

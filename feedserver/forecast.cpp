@@ -6,6 +6,7 @@
 #include "base/values.h"
 #include "feedserver/phrases.h"
 #include "feedserver/places.h"
+#include "feedserver/products.h"
 #include "feedserver/replies.h"
 #include "feedserver/rows.h"
 #include "feedserver/xml.h"
@@ -16,8 +17,7 @@ namespace {
 constexpr int kHistoryRows = 48, kHourlyRows = 66, kExtendedRows = 25;
 constexpr std::int64_t kPeriodHours = 12, kHourlyPeriods = 6;  // the last of them cut off
 constexpr std::int64_t kMinute = 60, kHour = 60 * kMinute;     // seconds
-constexpr std::int64_t kRunSeconds = 6 * kHour, kRunDelaySeconds = 3 * kHour,
-                       kObservationSeconds = 20 * kMinute;
+constexpr std::int64_t kObservationSeconds = 20 * kMinute;
 
 Date FloorTo(Date date, std::int64_t seconds) { return {date.seconds - date.seconds % seconds}; }
 Date AddHours(Date date, std::int64_t hours) { return DateAdd(DateUnit::Hours, hours, date); }
@@ -50,9 +50,6 @@ Date ObservationTime(const Spot& spot, Date now) {
   const std::int64_t phase = spot.place->minute * kMinute;
   return {FloorTo({now.seconds - phase}, kObservationSeconds).seconds + phase};
 }
-
-// The newest run of the model that is done.
-Date ModelRun(Date now) { return FloorTo({now.seconds - kRunDelaySeconds}, kRunSeconds); }
 
 std::string MetaXml(const std::vector<Spot>& spots, Date now) {
   XmlDocument xml("meta");

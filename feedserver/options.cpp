@@ -73,7 +73,7 @@ std::string_view HelpText() {
   --log FILE         append one JSON line for each request
   --fault PATH=KIND  make a fault; may be given again. PATH may end with ?PIECE, a piece of the query,
                      KIND with @N, from the N-th such request on. Kinds: refuse, 500, empty, cut, garbage,
-                     hang, drip, huge, wrong-count
+                     hang, drip, huge, bomb, wrong-count
   --offer-version V  the version of the program that is on offer (default 1.20.00)
   --update FILE      what is served as the update
   --stay             do not end when standard input ends

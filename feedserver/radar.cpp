@@ -7,6 +7,7 @@
 
 #include "base/values.h"
 #include "feedserver/cities.h"
+#include "feedserver/grain.h"
 #include "feedserver/lettering.h"
 #include "feedserver/outlines.h"
 #include "feedserver/samples.h"
@@ -109,45 +110,6 @@ Pixel Radii(const RadarSite& site, double kilometres) {
           degrees * kPerLatitude};
 }
 
-// What a radar sees is never smooth: factors around 1 that drift along with the weather.
-class Grain {
- public:
-  double At(int x, int y) const {
-    return factors_[static_cast<std::size_t>((y & kMask) * kSide + (x & kMask))];
-  }
-  static const Grain& Instance() {
-    static const Grain grain;
-    return grain;
-  }
-
- private:
-  static constexpr int kSide = 256, kMask = kSide - 1;
-
-  Grain() {
-    for (int y = 0; y < kSide; ++y) {
-      for (int x = 0; x < kSide; ++x)
-        factors_.push_back(std::exp2(1.3 * Wave(x, y, 16) + 0.9 * Wave(x, y, 8) + 0.5 * Wave(x, y, 4)));
-    }
-  }
-
-  // Smooth noise of -1 to 1 whose hills are `cell` pixels wide.
-  static double Wave(int x, int y, int cell) {
-    const auto corner = [&](int i, int j) {
-      const int cells = kSide / cell;
-      auto bits = static_cast<std::uint32_t>(((x / cell + i) % cells) * 73856093 ^
-                                             ((y / cell + j) % cells) * 19349663 ^ cell);
-      bits = (bits ^ (bits >> 15)) * 0x2C1B3C6Du;
-      bits = (bits ^ (bits >> 12)) * 0x297A2D39u;
-      return static_cast<double>(bits ^ (bits >> 15)) * 0x1p-31 - 1;
-    };
-    const double right = static_cast<double>(x % cell) / cell, down = static_cast<double>(y % cell) / cell;
-    return std::lerp(std::lerp(corner(0, 0), corner(1, 0), right),
-                     std::lerp(corner(0, 1), corner(1, 1), right), down);
-  }
-
-  std::vector<double> factors_;
-};
-
 // The lower ends of a scale's bands, in the quantity that is sampled.
 std::vector<double> Steps(const Kind& kind) {
   std::vector<double> steps;
@@ -173,9 +135,8 @@ void DrawEchoes(Canvas& canvas, const Kind& kind, const RadarSite& site, Date ti
   constexpr double kDriftPerDay = 9 * kPerLongitude;
   const Samples samples = Measure(kind, site, time, seed);
   const std::vector<double> steps = Steps(kind);
-  const Grain& grain = Grain::Instance();
   const double days = static_cast<double>(time.seconds) / 86400;
-  const int drift = static_cast<int>(std::fmod(days * kDriftPerDay, 256));
+  const int drift = static_cast<int>(std::fmod(days * kDriftPerDay, kGrainSide));
   const Pixel radii = Radii(site, kRange);
   std::vector<double> row(kSize);
   for (int y = 0; y < kSize; ++y) {
@@ -189,7 +150,7 @@ void DrawEchoes(Canvas& canvas, const Kind& kind, const RadarSite& site, Date ti
     for (int x = first; x < end; ++x) {
       const auto place = static_cast<std::size_t>(x);
       if (row[place] < kLeast) continue;
-      const double value = row[place] * std::lerp(1, grain.At(x - drift + 256, y), kind.grain);
+      const double value = row[place] * std::lerp(1, GrainAt(x - drift, y), kind.grain);
       std::size_t band = 0;
       while (band + 1 < steps.size() && value >= steps[band + 1]) ++band;
       pixels[place] = kind.scale.bands[band].colour;

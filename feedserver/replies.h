@@ -18,6 +18,8 @@ std::string HostsXml(const World& world);
 // The products of the catalogue of a model run ("00" to "18"), and the edges of their maps.
 std::string ProductsXml(std::string_view run_hour);
 std::string SectorsXml();
+// The page of an address; nothing for another address.
+std::optional<Reply> PageReply(std::string_view path);
 // The radar picture, map or legend of an address; nothing for another address.
 std::optional<Reply> PictureReply(std::string_view path, Date now, std::uint64_t seed);
 

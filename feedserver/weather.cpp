@@ -173,7 +173,7 @@ double WaterOf(const Air& air) {
 }
 
 void LetFall(const Field& field, Point point, const Air& air, Weather& weather) {
-  const double rate = WaterOf(air);
+  const double rate = weather.water = WaterOf(air);
   if (rate == 0) return;
   weather.fall = FallAt(weather.temperature, field.Value(kWarmLayers, point));
   weather.is_shower = air.cells > 0.25 && air.wetness < 0.55;
@@ -242,27 +242,6 @@ double SunHeight(Point point, Date gmt) {
   const double height = std::sin(latitude) * std::sin(declination) +
                         std::cos(latitude) * std::cos(declination) * std::cos(hour_angle);
   return std::asin(std::clamp(height, -1.0, 1.0)) * 180 / pi;
-}
-
-double WindChill(double temperature, double wind_speed) {
-  if (temperature > 50 || wind_speed < 3) return temperature;
-  const double wind = std::pow(wind_speed, 0.16);
-  return std::min(temperature, 35.74 + 0.6215 * temperature - 35.75 * wind + 0.4275 * temperature * wind);
-}
-
-double HeatIndex(double temperature, double humidity) {
-  if (temperature < 80 || humidity < 40) return temperature;
-  const double t = temperature, h = humidity;
-  return -42.379 + 2.04901523 * t + 10.14333127 * h - 0.22475541 * t * h - 0.00683783 * t * t -
-         0.05481717 * h * h + 0.00122874 * t * t * h + 0.00085282 * t * h * h - 0.00000199 * t * t * h * h;
-}
-
-double RelativeHumidity(double temperature, double dew_point) {
-  const auto exponent = [](double fahrenheit) {
-    const double celsius = (fahrenheit - 32) / 1.8;
-    return 17.625 * celsius / (243.04 + celsius);
-  };
-  return std::min(100.0, 100 * std::exp(exponent(dew_point) - exponent(temperature)));
 }
 
 }  // namespace skyloft::feed

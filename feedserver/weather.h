@@ -27,6 +27,7 @@ struct Weather {
   double cloud = 0;        // share of the sky, 0 to 1
   double rain = 0;         // inches an hour
   double snow = 0;         // inches of depth an hour
+  double water = 0;        // inches of it an hour in both
   double thunder = 0;      // 0 none to 1 certain
   Fall fall = Fall::None;
   bool is_shower = false;
@@ -34,7 +35,7 @@ struct Weather {
 };
 
 Weather WeatherAt(Point point, Date gmt, std::uint64_t seed);
-// Inches of water an hour in the rain and snow of that weather: the same field, for those who ask often.
+// The water of that weather alone, for those who ask often.
 double WaterAt(Point point, Date gmt, std::uint64_t seed);
 
 // The usual highest and lowest temperature of the day around a moment, Fahrenheit.

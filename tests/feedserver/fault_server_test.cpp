@@ -48,6 +48,21 @@ TEST(FaultyServer, StatusEmptyAndGarbage) {
   EXPECT_EQ(BodyOf(garbage).find("<?xml"), std::string::npos);
 }
 
+TEST(FaultyServer, PicturesHaveFaultsToo) {
+  const std::string radar = "/radar/images/DS.p19r0/SI.ktwx/latest.gif", map = "/sfctemp.200.12z.006.gif";
+  const std::string wind = "/wind.200.12z.006.png", cloud = "/cloud.200.12z.006.jpg";
+  RunningServer server({"--port", "0", "--fault", radar + "=cut", "--fault", map + "=garbage", "--fault",
+                        wind + "=bomb", "--fault", cloud + "=refuse@2"});
+  const std::string cut = Get(server.Port(), radar);
+  EXPECT_TRUE(BodyOf(cut).starts_with("GIF8"));
+  EXPECT_NE(cut.find("Content-Length: "), cut.npos);
+  EXPECT_EQ(cut.find("Content-Length: " + std::to_string(BodyOf(cut).size()) + "\r"), cut.npos);
+  EXPECT_EQ(BodyOf(Get(server.Port(), map)).size(), 256u);
+  EXPECT_TRUE(BodyOf(Get(server.Port(), wind)).starts_with("GIF89a\x60\xEA\x60\xEA"));
+  EXPECT_TRUE(BodyOf(Get(server.Port(), cloud)).starts_with("\xFF\xD8"));
+  EXPECT_EQ(Get(server.Port(), cloud), "");
+}
+
 TEST(FaultyServer, HangKeepsNobodyElseWaiting) {
   RunningServer server(WithFault("/forecast.asp=hang"));
   std::vector<std::unique_ptr<Client>> hanging(40);

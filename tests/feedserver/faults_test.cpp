@@ -66,6 +66,17 @@ TEST(Faults, HugeIsWellFormed) {
   EXPECT_STREQ(document.document_element().name(), "a");
 }
 
+TEST(Faults, BombIsASmallPictureOfHugeSize) {
+  const Reply bomb = Spoil(FaultKind::Bomb, Sample());
+  EXPECT_EQ(bomb.status, 200);
+  EXPECT_EQ(bomb.type, "image/gif");
+  EXPECT_LT(bomb.body.size(), 64u);
+  EXPECT_TRUE(bomb.body.starts_with("GIF89a"));
+  // Width and height, low byte first: 60000 is 0xEA60.
+  EXPECT_EQ(bomb.body.substr(6, 4), "\x60\xEA\x60\xEA");
+  EXPECT_EQ(ReadFault("/map.gif=bomb@2").kind, FaultKind::Bomb);
+}
+
 TEST(Faults, StatusAndEmptyBody) {
   EXPECT_EQ(Spoil(FaultKind::ServerError, Sample()).status, 500);
   EXPECT_EQ(Spoil(FaultKind::Empty, Sample()).status, 200);

@@ -1,0 +1,45 @@
+// What the maps show: quantities of the weather, over which time, in which colours.
+#pragma once
+
+#include <string_view>
+
+#include "feedserver/scale.h"
+#include "feedserver/weather.h"
+
+namespace skyloft::feed {
+
+enum class Over { Moment, Highest, Lowest, Sum };  // of the hours that end at the map's moment
+enum class Marks { None, Numbers, Arrows, Isobars, Roads };
+
+struct Layer {
+  std::string_view title;
+  Scale scale;
+  double (*quantity)(const Weather&);
+  Over over = Over::Moment;
+  int hours = 0;              // of the time that it looks back on
+  Marks marks = Marks::None;  // what is drawn over the colours; of roads alone the colours are on them
+};
+
+enum class LayerId {
+  Temperature,
+  High,
+  Low,
+  Precipitation,
+  HalfDayPrecipitation,
+  DayPrecipitation,
+  RunPrecipitation,
+  DaySnow,
+  Radar,
+  Wind,
+  Cloud,
+  Pressure,
+  Thunder,
+  Roads
+};
+
+const Layer& LayerOf(LayerId id);
+
+// The quantity of a layer at a point; `hours` are those that it looks back on.
+double ValueOf(const Layer& layer, int hours, Point point, Date end, std::uint64_t seed);
+
+}  // namespace skyloft::feed

@@ -1,0 +1,71 @@
+#include "feedserver/sectors.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace skyloft::feed {
+namespace {
+
+struct Family {
+  char id;
+  double width;  // metres
+};
+constexpr std::array<Family, 3> kFamilies = {{{'1', 2000e3}, {'3', 1600e3}, {'4', 1280e3}}};
+
+// The middles of the regions.
+constexpr auto kRegions = std::to_array<Point>({
+    {45.2, -117.5},  // Northwest
+    {35.3, -114.8},  // Southwest
+    {41.8, -105.5},  // Rocky Mountains
+    {39.2, -96.5},   // Plains
+    {32.2, -97.5},   // Texas and its neighbours
+    {41.8, -88.5},   // Middle West
+    {42.0, -74.0},   // Northeast
+    {29.8, -83.0},   // Southeast
+    {62.0, -150.5},  // Alaska
+    {20.8, -157.3},  // Hawaii
+    {18.3, -66.4},   // Puerto Rico
+});
+
+double WholeKilometres(double metres) { return std::round(metres / 1000) * 1000; }
+
+std::vector<Sector> MakeSectors() {
+  // The lower 48 states, which reach from -2034 to 2514 km and from -2663 to 186 km, in the middle of a map.
+  std::vector<Sector> sectors = {{"200", -2400e3, 2800e3, -3100e3, 800e3}};
+  for (const Family& family : kFamilies) {
+    const double height = family.width * kMapHeight / kMapWidth;
+    int number = 1;
+    for (const Point& region : kRegions) {
+      const MapPoint middle = Project(region);
+      const double left = WholeKilometres(middle.x - family.width / 2);
+      const double bottom = WholeKilometres(middle.y - height / 2);
+      std::string id = std::to_string(100 + number++);
+      id[0] = family.id;
+      sectors.push_back({id, left, left + family.width, bottom, bottom + height});
+    }
+  }
+  return sectors;
+}
+
+}  // namespace
+
+Pixel Sector::PixelOf(MapPoint point) const {
+  return {(point.x - xmin) / (xmax - xmin) * kMapWidth, (ymax - point.y) / (ymax - ymin) * kMapHeight};
+}
+
+MapPoint Sector::PointOf(Pixel pixel) const {
+  return {xmin + pixel.x / kMapWidth * (xmax - xmin), ymax - pixel.y / kMapHeight * (ymax - ymin)};
+}
+
+const std::vector<Sector>& Sectors() {
+  static const std::vector<Sector> sectors = MakeSectors();
+  return sectors;
+}
+
+const Sector* FindSector(std::string_view id) {
+  const auto found = std::ranges::find(Sectors(), id, &Sector::id);
+  return found == Sectors().end() ? nullptr : &*found;
+}
+
+}  // namespace skyloft::feed
