@@ -42,7 +42,8 @@ std::span<const Colour> Canvas::Row(int y) const { return const_cast<Canvas*>(th
 
 void Canvas::Blend(int x, int y, Colour colour, double share) {
   if (x < 0 || x >= width_ || y < 0 || y >= height_ || share <= 0) return;
-  Colour& pixel = pixels_[static_cast<std::size_t>(y * width_ + x)];
+  const int place = y * width_ + x;
+  Colour& pixel = pixels_[static_cast<std::size_t>(place)];
   pixel = share >= 1 ? colour : Mix(pixel, colour, share);
 }
 
@@ -83,18 +84,6 @@ void Canvas::DrawSoftLine(Pixel from, Pixel to, double width, Colour colour) {
 void Canvas::DrawSoft(std::span<const Pixel> path, double width, Colour colour) {
   if (path.size() == 1) DrawSoftLine(path[0], path[0], width, colour);
   for (std::size_t i = 1; i < path.size(); ++i) DrawSoftLine(path[i - 1], path[i], width, colour);
-}
-
-void Canvas::FillShape(std::span<const Pixel> shape, Colour colour) {
-  Mask mask(width_, height_);
-  for (std::size_t i = 0; i < shape.size(); ++i) mask.AddLine(shape[i], shape[(i + 1) % shape.size()]);
-  for (int y = 0; y < height_; ++y) {
-    const std::vector<std::uint8_t> inside = mask.Row(y);
-    for (int x = 0; x < width_; ++x) Blend(x, y, colour, inside[static_cast<std::size_t>(x)]);
-  }
-  std::vector<Pixel> outline(shape.begin(), shape.end());
-  outline.push_back(shape.front());
-  DrawSoft(outline, 1, colour);
 }
 
 void Mask::AddLine(Pixel from, Pixel to) {

@@ -36,8 +36,6 @@ class Canvas {
   // edges. A path of one place is a dot.
   void DrawHard(std::span<const Pixel> path, Colour colour);
   void DrawSoft(std::span<const Pixel> path, double width, Colour colour);
-  // A closed shape with soft edges.
-  void FillShape(std::span<const Pixel> shape, Colour colour);
 
  private:
   void DrawSoftLine(Pixel from, Pixel to, double width, Colour colour);

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
+#include <utility>
 
 #include "base/guard.h"
 
@@ -139,8 +141,9 @@ std::vector<Highway> MakeHighways() {
   };
   std::vector<Highway> highways;
   for (const auto& route : kRoutes) {
-    Highway& highway = highways.emplace_back(route.name);
-    for (const std::string_view city : route.cities) highway.points.push_back(PointOf(city));
+    std::vector<Point> points;
+    std::ranges::transform(route.cities, std::back_inserter(points), PointOf);
+    highways.push_back({route.name, std::move(points)});
   }
   return highways;
 }

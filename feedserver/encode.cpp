@@ -49,11 +49,13 @@ ColourTable TableOf(const Canvas& canvas) {
   Use* last = nullptr;
   for (int y = 0; y < canvas.Height(); ++y) {
     for (const Colour colour : canvas.Row(y)) {
-      if (!last || last->colour != colour) last = &uses.try_emplace(KeyOf(colour), colour, 0).first->second;
+      if (!last || last->colour != colour)
+        last = &uses.try_emplace(KeyOf(colour), Use{colour, 0}).first->second;
       ++last->count;
     }
   }
   std::vector<Use> sorted;
+  sorted.reserve(uses.size());
   for (const auto& [key, use] : uses) sorted.push_back(use);
   std::ranges::sort(sorted, [](const Use& a, const Use& b) {
     return a.count != b.count ? a.count > b.count : KeyOf(a.colour) < KeyOf(b.colour);

@@ -9,7 +9,8 @@ namespace {
 
 // Noise of -1 to 1 at a corner of a net.
 double Corner(int column, int row, int cell) {
-  auto bits = static_cast<std::uint32_t>(column * 73856093 ^ row * 19349663 ^ cell);
+  std::uint32_t bits = static_cast<std::uint32_t>(column) * 73856093u ^
+                       static_cast<std::uint32_t>(row) * 19349663u ^ static_cast<std::uint32_t>(cell);
   bits = (bits ^ (bits >> 15)) * 0x2C1B3C6Du;
   bits = (bits ^ (bits >> 12)) * 0x297A2D39u;
   return static_cast<double>(bits ^ (bits >> 15)) * 0x1p-31 - 1;
@@ -38,7 +39,8 @@ std::vector<double> MakeFactors() {
 double GrainAt(int x, int y) {
   static const std::vector<double> factors = MakeFactors();
   constexpr int mask = kGrainSide - 1;
-  return factors[static_cast<std::size_t>((y & mask) * kGrainSide + (x & mask))];
+  const int place = (y & mask) * kGrainSide + (x & mask);
+  return factors[static_cast<std::size_t>(place)];
 }
 
 }  // namespace skyloft::feed

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
+#include <span>
 
 #include "base/guard.h"
 
@@ -136,9 +138,10 @@ const std::vector<std::string_view>& Categories() {
 
 std::vector<Product> ProductsOf(std::string_view run_hour) {
   std::vector<Product> products;
-  for (const Entry& entry : kPages) products.push_back(ProductOf(entry, run_hour));
-  for (const Entry& entry : kMaps) products.push_back(ProductOf(entry, run_hour));
-  for (const Entry& entry : kAddresses) products.push_back(ProductOf(entry, run_hour));
+  for (const std::span<const Entry> entries : {std::span<const Entry>(kPages), {kMaps}, {kAddresses}}) {
+    std::ranges::transform(entries, std::back_inserter(products),
+                           [&](const Entry& entry) { return ProductOf(entry, run_hour); });
+  }
   return products;
 }
 

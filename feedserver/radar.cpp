@@ -124,8 +124,10 @@ Samples Measure(const Kind& kind, const RadarSite& site, Date time, std::uint64_
   return Samples(kSize, kSize, kind.step, [&](Pixel pixel) {
     const Point point = PointOf(site, pixel);
     double sum = 0;
-    for (int i = 0; i < kind.moments; ++i)
-      sum += WaterAt(point, DateAdd(DateUnit::Minutes, -i * kind.minutes, time), seed);
+    for (int i = 0; i < kind.moments; ++i) {
+      const int minutes = i * kind.minutes;
+      sum += WaterAt(point, DateAdd(DateUnit::Minutes, -minutes, time), seed);
+    }
     return sum / kind.moments * kind.hours;
   });
 }

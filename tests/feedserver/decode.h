@@ -5,8 +5,8 @@
 #include <gtest/gtest.h>
 #include <png.h>
 
+#include <algorithm>
 #include <cstdio>
-#include <cstring>
 #include <string>
 #include <vector>
 
@@ -27,7 +27,7 @@ inline Canvas DecodeGif(const std::string& bytes) {
       [](GifFileType* file, GifByteType* to, int size) {
         auto& from = *static_cast<Source*>(file->UserData);
         const std::size_t count = std::min(static_cast<std::size_t>(size), from.bytes.size() - from.at);
-        std::memcpy(to, from.bytes.data() + from.at, count);
+        std::copy_n(from.bytes.begin() + static_cast<std::ptrdiff_t>(from.at), count, to);
         from.at += count;
         return static_cast<int>(count);
       },
@@ -53,11 +53,12 @@ inline Canvas DecodePng(const std::string& bytes) {
   image.version = PNG_IMAGE_VERSION;
   EXPECT_TRUE(png_image_begin_read_from_memory(&image, bytes.data(), bytes.size())) << image.message;
   image.format = PNG_FORMAT_RGB;
-  std::vector<Colour> pixels(image.width * image.height);
+  std::vector<Colour> pixels(static_cast<std::size_t>(image.width) * image.height);
   EXPECT_TRUE(png_image_finish_read(&image, nullptr, pixels.data(), 0, nullptr)) << image.message;
   Canvas canvas(static_cast<int>(image.width), static_cast<int>(image.height), {});
-  for (int y = 0; y < canvas.Height(); ++y)
-    std::copy_n(pixels.begin() + y * canvas.Width(), canvas.Width(), canvas.Row(y).begin());
+  auto from = pixels.begin();
+  for (int y = 0; y < canvas.Height(); ++y, from += canvas.Width())
+    std::copy_n(from, canvas.Width(), canvas.Row(y).begin());
   return canvas;
 }
 

@@ -132,7 +132,7 @@ TEST(Maps, TemperaturesOfOneBandHaveOneColour) {
     const auto most = std::ranges::max_element(counts, {}, [](const auto& count) { return count.second; });
     int all = 0;
     for (const auto& [colour, count] : counts) all += count;
-    if (all < 100) continue;  // one name would cover much of it
+    if (all < 100) continue;                          // one name would cover much of it
     EXPECT_GT(most->second, all * 85 / 100) << band;  // borders and names cover the rest
     EXPECT_TRUE(of_bands.insert(most->first).second) << band;
   }
