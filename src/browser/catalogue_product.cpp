@@ -113,6 +113,7 @@ void ShowCatalogueProduct() {
   ShowEntryTitle();
   ShowMapButtons();
   ShowLegend(products.file[product]);
+  ShowEntryTitle();  // again, as the download of the legend told its progress there
   EnableSelectionLabels();
 }
 

@@ -23,11 +23,12 @@ QString SkinStyle() {
     QLineEdit:focus { border-color: #ffd35c; }
     QLineEdit:disabled { color: #6f7fa3; }
     QLineEdit#Channel { color: #7be08a; font-weight: bold; }
-    QComboBox { background: #16294f; border: 1px solid #3a568c; border-radius: 5px; padding: 0 6px; }
+    QComboBox { background: #16294f; border: 1px solid #3a568c; border-radius: 5px; padding: 0 4px 0 5px;
+                font-size: 11px; }
     QComboBox:hover { border-color: #5b9bff; }
     QComboBox:focus { border-color: #ffd35c; }
     QComboBox:disabled { color: #6f7fa3; background: #12203e; }
-    QComboBox::drop-down { border: 0; width: 18px; }
+    QComboBox::drop-down { border: 0; width: 15px; }
     QComboBox::down-arrow { image: url(skin:arrow.png); width: 10px; height: 6px; }
     QComboBox QAbstractItemView { background: #16294f; color: #dbe6ff; border: 1px solid #3a568c;
                                   selection-background-color: #3f6fd0; outline: 0; }
@@ -60,9 +61,9 @@ QPalette SkinPalette() {
 
 const std::vector<FixedCaption>& FixedCaptions() {
   static const std::vector<FixedCaption> captions = {
-      {"MainForm", {182, 42, 136, 15}, "Location"},
-      {"MainForm", {326, 42, 136, 15}, "Category"},
-      {"MainForm", {470, 42, 166, 15}, "Product"},
+      {"MainForm", {182, 42, 118, 15}, "Location"},
+      {"MainForm", {308, 42, 116, 15}, "Category"},
+      {"MainForm", {432, 42, 180, 15}, "Product"},
   };
   return captions;
 }
