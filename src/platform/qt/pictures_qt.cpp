@@ -45,21 +45,24 @@ void DropOldest() {
   }
 }
 
-// The picture of a file, decoded once for each change of the file.
+std::list<KeptPicture>::iterator FindKept(const std::string& path) {
+  return std::ranges::find(Kept(), path, &KeptPicture::path);
+}
+
+// The picture of a file, decoded once for each change of the file; null when there is none now.
 QImage PictureOf(const std::string& path) {
   const auto file = PathForReading(path);
   const QFileInfo info(file ? *file : QString());
+  if (!info.exists()) return {};
   auto& kept = Kept();
-  const auto found = std::ranges::find(kept, path, &KeptPicture::path);
-  if (found != kept.end()) {
-    if (info.exists() && found->time == info.lastModified() && found->size == info.size()) {
-      kept.splice(kept.begin(), kept, found);
-      return found->image;
-    }
-    kept.erase(found);
+  const auto found = FindKept(path);
+  if (found != kept.end() && found->time == info.lastModified() && found->size == info.size()) {
+    kept.splice(kept.begin(), kept, found);
+    return found->image;
   }
   const QImage image = ReadPicture(path);
   if (image.isNull()) return image;
+  if (found != kept.end()) kept.erase(found);
   kept.push_front({path, info.lastModified(), info.size(), image});
   DropOldest();
   return image;
@@ -118,7 +121,13 @@ bool IsSane(QSize size) {
 
 }  // namespace
 
-QImage LoadedPicture(const std::string& path) { return path.empty() ? QImage() : PictureOf(path); }
+QImage LoadedPicture(const std::string& path) {
+  if (path.empty()) return {};
+  const QImage now = PictureOf(path);
+  if (!now.isNull()) return now;
+  const auto kept = FindKept(path);
+  return kept == Kept().end() ? now : kept->image;
+}
 
 QImage ReadPicture(const std::string& path) {
   const QList<QImage> images = ReadPictures(path, 1);

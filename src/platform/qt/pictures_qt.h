@@ -8,8 +8,9 @@
 
 namespace skyloft {
 
-// The picture of a file, decoded once for each change of the file; a null image when there is none. The
-// pictures used last are kept.
+// The picture to show for a path: that of the file, decoded once for each change of it, or, while the file is
+// gone or has become no picture, the one it had. Null when there never was one; the pictures used last are
+// kept.
 QImage LoadedPicture(const std::string& path);
 
 // Reads a picture file; a null image when it is missing, no picture, or larger than a screenful of screens.
