@@ -12,9 +12,9 @@ namespace {
 
 constexpr Colour kLand{240, 236, 226}, kOutside{172, 186, 200};
 constexpr Colour kBar{24, 40, 72}, kWhite{255, 255, 255};
-constexpr double kFieldShare = 0.92;   // how much of a colour covers the land
-constexpr double kOutsideShare = 0.4;  // and what lies outside
-constexpr int kBarHeight = 42;
+constexpr double kFieldShare = 0.92;             // how much of a colour covers the land
+constexpr double kOutsideShare = 0.4;            // and what lies outside
+constexpr int kBarHeight = 42, kBarRight = 598;  // a client shows the first 604 pixels of a row
 constexpr int kLegendWidth = 604, kLegendHeight = 40;
 
 Samples Measure(const Sheet& sheet) {
@@ -78,10 +78,9 @@ void DrawBar(const MapRequest& request, Canvas& canvas) {
   WriteSoft(canvas, request.title, {9, 6}, 11, 1.8, kWhite);
   const std::string time = TimeText(request);
   constexpr double kTimeHeight = 8;
-  WriteSoft(canvas, time, {kMapWidth - 9 - TextWidth(time, kTimeHeight), 8}, kTimeHeight, 1.2,
-            {206, 220, 240});
+  WriteSoft(canvas, time, {kBarRight - TextWidth(time, kTimeHeight), 8}, kTimeHeight, 1.2, {206, 220, 240});
   WriteSoft(canvas, "SIMULATED", {9, 27}, 7, 1.1, {244, 196, 96});
-  DrawScale(canvas, request.layer->scale, {80, 23}, kMapWidth - 90, 8);
+  DrawScale(canvas, request.layer->scale, {80, 23}, kBarRight - 80, 8);
 }
 
 }  // namespace

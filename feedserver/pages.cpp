@@ -70,6 +70,7 @@ body { margin: 0; font-family: Tahoma, Verdana, sans-serif; font-size: 13px; col
 h1 { margin: 0; padding: 14px 20px; font-size: 20px; color: #ffffff; background: #182848; }
 h2 { margin: 16px 0 4px 0; font-size: 15px; color: #24427c; }
 p { margin: 4px 0 8px 0; line-height: 1.4; }
+td { font-size: 13px; }
 .text { padding: 4px 20px 20px 20px; }
 </style></head>
 <body><h1>)");
