@@ -91,18 +91,57 @@ TEST_F(CatalogueProduct, EveryCodeListsItsTimesAndSetsItsRange) {
   }
 }
 
+// The feed's first hour, 13 GMT, is 8:00, 7:00, 6:00 and 5:00 there; the last of these is still a night. It
+// is 14:05 at each place, and the computer stands there.
 TEST_F(CatalogueProduct, TimesAreTheLocationsInEveryZone) {
   const struct {
-    const char *zone, *dst, *present;
-  } cases[] = {{"-5", "0", "Friday 3:05 PM EST"},
-               {"-6", "1", "Friday 3:05 PM CDT"},
-               {"-7", "0", "Friday 1:05 PM MST"},
-               {"-8", "1", "Friday 1:05 PM PDT"}};
+    int zone;
+    const char *letters, *start, *second, *third, *hour11, *hour17, *hour23, *hour29;
+  } cases[] = {
+      {-5, "EST", "Friday", "Friday Night", "Saturday", "Friday, Mar 07", "Saturday, Mar 08",
+       "Saturday, Mar 08", "Saturday, Mar 08"},
+      {-6, "CST", "Friday", "Friday Night", "Saturday", "Friday, Mar 07", "Saturday, Mar 08",
+       "Saturday, Mar 08", "Saturday, Mar 08"},
+      {-7, "MST", "Friday", "Friday Night", "Saturday", "Friday, Mar 07", "Friday, Mar 07",
+       "Saturday, Mar 08", "Saturday, Mar 08"},
+      {-8, "PST", "Friday Night", "Friday", "Saturday Night", "Friday, Mar 07", "Friday, Mar 07",
+       "Saturday, Mar 08", "Saturday, Mar 08"},
+  };
   for (const auto& c : cases) {
-    SetZone(c.zone, c.dst);
-    Choose("10", "1");
-    EXPECT_EQ(Times(), Names{c.present});
+    SetUpForecast("3/7/2003 1:00:00 PM", c.zone);
+    Doubles.zone = {-60 * c.zone, 1};
+    SetZone(std::to_string(c.zone).c_str(), "0");
+    const std::string zone = std::string(" ") + c.letters;
+    const std::string first_hour = std::to_string(13 + c.zone);
+    const Names periods = {c.start + std::string(", Mar 07"), c.second + std::string(", Mar 07"),
+                           c.third + std::string(", Mar 08")};
+    const std::pair<const char*, Names> lists[] = {
+        {"0", {"Friday 1:53 PM" + zone}},
+        {"1", {"Friday " + first_hour + ":00 AM" + zone}},
+        {"4", periods},
+        {"5", {c.hour11}},
+        {"6", {c.hour17}},
+        {"7", {c.hour23}},
+        {"8", {c.hour29}},
+        {"10", {"Friday 2:05 PM" + zone}},
+        {"11", periods},
+    };
+    for (const auto& [code, times] : lists) {
+      Choose(code, std::to_string(times.size()));
+      EXPECT_EQ(Times(), times) << code << zone;
+    }
+    for (const char* code : {"2", "3"}) {
+      Choose(code, "66");
+      ASSERT_GT(Times().size(), 1u) << code << zone;
+      EXPECT_EQ(Times()[0], "Friday 3:00 PM" + zone) << code;
+      EXPECT_EQ(Times()[1], "Friday 4:00 PM" + zone) << code;
+      EXPECT_EQ(static_cast<int>(Times().size()), 66 - (15 - (13 + c.zone))) << code;
+    }
   }
+  SetZone("-5", "1");
+  Doubles.zone = {360, 1};
+  Choose("10", "1");
+  EXPECT_EQ(Times(), Names{"Friday 4:05 PM EDT"});
 }
 
 TEST_F(CatalogueProduct, AnHourlyPicturesFirstEntryIsTheHourToCome) {

@@ -112,6 +112,44 @@ TEST_F(Frames, ARouteGoesByItsOwnModelRun) {
   }
 }
 
+// Twelve frames of every code in every run, worked by hand. A shorter series is the beginning of the longer.
+TEST_F(Frames, AllCodesInAllRunsFromOneToTwelveFrames) {
+  struct Row {
+    int code;
+    std::initializer_list<const char*> runs;
+    int of_run;  // frames of the newest run; the rest are of the extended one
+    std::initializer_list<int> hours;
+  };
+  const Row rows[] = {
+      {3, {"00z", "06z", "12z", "18z"}, 12, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}},
+      {4, {"00z", "12z"}, 5, {12, 24, 36, 48, 60, 84, 96, 108, 120, 132, 144, 156}},
+      {4, {"06z", "18z"}, 5, {18, 30, 42, 54, 66, 84, 96, 108, 120, 132, 144, 156}},
+      {5, {"00z", "06z", "12z", "18z"}, 3, {12, 36, 60, 96, 120, 144, 168, 192, 216, 240, 264, 288}},
+      {6, {"00z", "06z", "12z", "18z"}, 3, {18, 42, 66, 108, 132, 156, 180, 204, 228, 252, 276, 300}},
+      {7, {"00z", "06z", "12z", "18z"}, 2, {24, 48, 84, 108, 132, 156, 180, 204, 228, 252, 276, 300}},
+      {8, {"00z", "06z", "12z", "18z"}, 2, {30, 54, 96, 120, 144, 168, 192, 216, 240, 264, 288, 312}},
+  };
+  Catalogues.ModelRunExtended = "ext";
+  for (const Row& row : rows) {
+    for (const char* run : row.runs) {
+      Catalogues.ModelRun = run;
+      const int first_place = row.code == 3 ? 0 : 1;
+      std::string expected;
+      int j = 0;
+      for (const int hour : row.hours) {
+        expected += (j == 0 ? "" : " ") + std::to_string(first_place + j) + ":" +
+                    (j < row.of_run ? run : "ext") + "." +
+                    (hour < 10    ? "00"
+                     : hour < 100 ? "0"
+                                  : "") +
+                    std::to_string(hour);
+        ++j;
+        EXPECT_EQ(Series(row.code, j), expected) << row.code << run;
+      }
+    }
+  }
+}
+
 TEST_F(Frames, AnyOtherCodeHasNone) {
   for (const int code : {-1, 12, 99}) EXPECT_EQ(Series(code, 3), "none") << code;
 }

@@ -1,9 +1,13 @@
 // The planners on show, made of the feed's own replies.
 #include <gtest/gtest.h>
 
+#include <QDir>
+#include <QDirIterator>
+
 #include "core/live_station.h"
 #include "core/mainform.h"
 #include "core/refresh.h"
+#include "feed/catalogues.h"
 
 namespace skyloft {
 namespace {
@@ -73,6 +77,51 @@ TEST_F(LivePages, EveryModelRunGivesBothPlannersOfTheSelectedTown) {
     for (size_t i = 0; i < 12; ++i) EXPECT_NE(days[i] + "|" + dates[i], "|") << i;
     EXPECT_EQ(MainForm.TimeSelection.Text(), dates[0] + " thru " + dates[11]);
   }
+}
+
+TEST_F(LivePages, APictureThatNeverComesLeavesTheFormerAndTheNextChoiceFetchesAgain) {
+  LoadMainForm();
+  ConnectTo({"--fault", "/obstemp.200.gif=hang"});
+  MoveTo(start);
+  Start.LocalView = "False";
+  MainForm.HttpData.Timeout = 200;
+  MainForm.Display1.SetPicture("former", 1, 1);
+  MainForm.CategorySelection.Select(4);
+  ASSERT_EQ(MainForm.ProductSelection.Text().substr(4), "Observed Temperature");
+  EXPECT_EQ(MainForm.Display1.PicturePath(), "former");
+  EXPECT_TRUE(MainForm.HttpData.Idle());
+  ConnectTo({});
+  MainForm.ProductSelection.Select(0);
+  EXPECT_EQ(MainForm.Display1.PicturePath(), "C:\\program files\\skyloft\\temp\\obstemp.200.gif");
+}
+
+// Nothing of a catalogue's names leads out of the temp folder.
+TEST_F(LivePages, HostileNamesInACatalogueWriteNothingOutsideTheFolders) {
+  LoadMainForm();
+  MainForm.CategorySelection.Select(4);
+  const auto all_files = [&] {
+    QStringList files;
+    QDirIterator walk(folder.path(), QDir::Files, QDirIterator::Subdirectories);
+    while (walk.hasNext()) {
+      const QString file = walk.next();
+      if (!file.startsWith(folder.path() + "/program files/skyloft/temp/") && file != log) files << file;
+    }
+    files.sort();
+    return files;
+  };
+  const QStringList before = all_files();
+  MainForm.Display1.SetPicture("former", 1, 1);
+  const int product = Catalogues.ProductMap[0];
+  for (const std::string name :
+       {"..\\..\\evil", "../../../evil", "C:\\evil", "D:\\evil", "/etc/evil", "\\\\host\\evil"}) {
+    Catalogues.ProductRecord.file.Put(product, name);
+    MainForm.ProductSelection.Select(0);
+    EXPECT_EQ(MainForm.Display1.PicturePath(), "former") << name;
+    EXPECT_EQ(all_files(), before) << name.c_str();
+  }
+  Catalogues.ProductRecord.file.Put(product, std::string("evil\0name", 9));
+  MainForm.ProductSelection.Select(0);
+  EXPECT_EQ(all_files(), before);
 }
 
 }  // namespace

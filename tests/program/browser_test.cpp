@@ -107,6 +107,38 @@ INSTANTIATE_TEST_SUITE_P(Kinds, PictureFault,
                          testing::Values("500", "empty", "cut", "garbage", "refuse", "huge", "bomb"),
                          [](const auto& test) { return "Of" + std::string(test.param); });
 
+// A map goes on from one act to the next: views, zoom, the legend, another town.
+TEST(MapOnShow, FollowsEveryButtonAndAChangeOfTheTown) {
+  const Folder folder;
+  SetUpTowns(folder);
+  const RunningServer server({"--port", "0"});
+  const auto lines = [](std::initializer_list<std::string> acts) {
+    std::string text;
+    for (const std::string& act : acts) text += act + "\nuntil idle 20000\n";
+    return text;
+  };
+  const std::string legend = "click MainForm.LegendButton";
+  const Ending ending = Browse(
+      folder, server,
+      Choose("Forecast Maps", 0) +
+          lines({"expect MainForm.Legend visible true", legend, "expect MainForm.Legend visible false",
+                 legend, "expect MainForm.Legend visible true", "click MainForm.NationalButton",
+                 "expect MainForm.LocalButton enabled true", "expect MainForm.ZoomInButton enabled false",
+                 "click MainForm.LocalButton", "click MainForm.ZoomInButton", "click MainForm.ZoomInButton",
+                 "click MainForm.ZoomInButton", "expect MainForm.ZoomOutButton enabled true",
+                 "click MainForm.ZoomOutButton", "click MainForm.ZoomOutButton",
+                 "click MainForm.ZoomOutButton", "expect MainForm.ZoomOutButton enabled false",
+                 "expect MainForm.Display1 zoom 1", "select MainForm.LocationSelection 3"}));
+  EXPECT_EQ(ending.code, 0) << ending.errors;
+  const Snapshot shown(folder.Path("s"));
+  EXPECT_TRUE(shown.Flag("MainForm.Display1", "visible"));
+  EXPECT_EQ(shown.Text("MainForm.ProductTitle", "caption").find("Surface Temperature "), 0u);
+  EXPECT_GT(ColoursShown(shown), 2);
+  const Ending again = Browse(folder, server, Choose("Forecast Maps", 0) + "click MainForm.Thumbnail\n");
+  EXPECT_EQ(again.code, 0) << again.errors;
+  EXPECT_EQ(Snapshot(folder.Path("s")).Text("MainForm.CategorySelection", "text"), "NEXRAD Radar");
+}
+
 TEST(RadarLoop, PlaysTheFramesOfASite) {
   const Folder folder;
   SetUpTowns(folder);
