@@ -178,6 +178,10 @@ std::string_view MiddleText(std::string_view text, int first) {
   return text.substr(Clip(first - 1, text.size()));
 }
 
+std::string_view MiddleText(std::string_view text, int first, int count) {
+  return LeftText(MiddleText(text, first), count);
+}
+
 std::string_view TrimText(std::string_view text) {
   while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
   while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);

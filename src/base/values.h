@@ -48,6 +48,8 @@ std::string_view LeftText(std::string_view text, int count);
 std::string_view RightText(std::string_view text, int count);
 // The text from the character `first` on, counted from 1; "" past its end.
 std::string_view MiddleText(std::string_view text, int first);
+// `count` characters from there; fewer where the text ends.
+std::string_view MiddleText(std::string_view text, int first, int count);
 // Blanks and tabs cut off at both ends.
 std::string_view TrimText(std::string_view text);
 

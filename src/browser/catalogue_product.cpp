@@ -64,6 +64,7 @@ void ShowLegend(const std::string& file) {
   const std::string name = file + "_legend.gif";
   const std::string path = Settings.InstallPath + "\\legends\\" + name;
   if (!FileExists(path)) GetImage(HostTable.fileserver + "legends\\" + name, path);
+  ShowEntryTitle();  // again, as the download told its progress there
   if (!FileExists(path)) {
     MainForm.Legend.Visible = false;
     return;
@@ -104,16 +105,15 @@ void ShowCatalogueProduct() {
     ShowWebPage(products.file[product]);
     return;
   }
+  const bool may_be_empty = FillTimes(WholeNumber(code), WholeNumber(products.period[product]));
+  if (!may_be_empty || MainForm.TimeSelection.Count() > 0) MainForm.TimeSelection.Select(0);
   MainForm.Display1.ViewX = 0;
   MainForm.Display1.ViewY = 0;
-  FillTimes(WholeNumber(code), WholeNumber(products.period[product]));
-  if (MainForm.TimeSelection.Count() > 0) MainForm.TimeSelection.Select(0);
   MainForm.Display2.Visible = false;
   MainForm.Display1.Visible = true;
   ShowEntryTitle();
   ShowMapButtons();
   ShowLegend(products.file[product]);
-  ShowEntryTitle();  // again, as the download of the legend told its progress there
   EnableSelectionLabels();
 }
 

@@ -13,8 +13,8 @@ extern Table<std::string, 67> FramePath;
 
 // Names the frames of the selected product, and shows the one of the selected time: the file in the temp
 // folder if it is at most six hours old, else it is fetched first. Without the file the former picture stays.
-// Pictures that have no series are always fetched, and end the product's range. Every name with an hour also
-// sets ForecastTimer to the hour's text. Nothing for a code outside the table.
+// A picture that is no series ends the product's range; those that are of no run are always fetched. Every
+// name with an hour also sets ForecastTimer to the hour's text. Nothing for a code outside the table.
 void ImageFetch();
 
 // Shows the newest radar picture of a site in Thumbnail; without one it stays.

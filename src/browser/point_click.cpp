@@ -36,7 +36,7 @@ GeoPoint PlaceAt(int x, int y) {
 }
 
 void TellForecastAt(const MousePress& press) {
-  if (!TellsForecasts()) return;
+  if (press.button != MouseButton::Left || !TellsForecasts()) return;
   const int location = SelectedLocation();
   const GeoPoint place = PlaceAt(press.x, press.y);
   const PointForecast hour = QueryPointForecast(NumberText(RoundHalfEven(place.latitude, 2)),

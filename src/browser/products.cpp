@@ -100,6 +100,8 @@ void ShowPrecipitation(const char* kind) {
   ShowRadarButtons();
   MainForm.Display1.Zoom = 1.0;
   GetLatestImage(RadarUrl(kind, SelectedLocation()));
+  MainForm.Display1.ViewX = 0;
+  MainForm.Display1.ViewY = 0;
   SetRangeOfTimes();
   ShowPicture();
   ShowEntryTitle();

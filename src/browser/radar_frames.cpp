@@ -11,7 +11,6 @@
 #include "forms/main_form.h"
 #include "platform/files.h"
 #include "platform/pictures.h"
-#include "settings/location_profiles.h"
 #include "settings/settings.h"
 #include "weather/time.h"
 
@@ -20,24 +19,13 @@ namespace {
 
 std::string TempFolder() { return Settings.InstallPath + "\\temp"; }
 
-// Hours from GMT of the selected location, daylight time added.
-long long LocationOffset() {
-  const auto& profile = LocationProfile;
-  const int slot = SelectedLocation();
-  return RoundHalfEven(LenientNumber(profile[ProfileRow::TimeZone][slot]) +
-                       LenientNumber(profile[ProfileRow::Dst][slot]));
-}
-
-std::string CharactersOf(const std::string& text, int first, int count) {
-  return std::string(LeftText(MiddleText(text, first), count));
-}
-
 }  // namespace
 
 void NexradLoad(const std::string& prefix, const std::string& site) {
   Guarded([&] {
     const Date now = PresentGMT();
     const std::string zone = LocationZone(SelectedLocation());
+    const long long offset = LocationOffset(SelectedLocation());
     FileList& list = MainForm.FileList;
     list.Path = TempFolder();
     list.Files = ListFiles(list.Path);
@@ -50,7 +38,7 @@ void NexradLoad(const std::string& prefix, const std::string& site) {
         DeleteFile(list.Path + "\\" + file);
         continue;
       }
-      const Date local = DateAdd(DateUnit::Hours, LocationOffset(), time);
+      const Date local = DateAdd(DateUnit::Hours, offset, time);
       times.AddItem(Format(local, "hh:mm AM/PM") + " " + zone + " " + Format(local, "mm/dd/yy"));
     }
     BackNextPlayStopState();
@@ -62,8 +50,10 @@ void NexradLoad(const std::string& prefix, const std::string& site) {
 void NexradDisplay(const std::string& prefix, const std::string& site) {
   Guarded([&] {
     const std::string entry = MainForm.TimeSelection.Text();
-    const Date local = ReadDate(CharactersOf(entry, 1, 8) + " " + CharactersOf(entry, 14, 8));
-    const std::string stamp = Format(DateAdd(DateUnit::Hours, -LocationOffset(), local), "mmddyyyyhhnn");
+    const Date local =
+        ReadDate(std::string(MiddleText(entry, 1, 8)) + " " + std::string(MiddleText(entry, 14, 8)));
+    const std::string stamp =
+        Format(DateAdd(DateUnit::Hours, -LocationOffset(SelectedLocation()), local), "mmddyyyyhhnn");
     LoadPicture(MainForm.Display1, TempFolder() + "\\" + prefix + "." + site + "." + stamp + ".png");
     if (MainForm.AreaZoomButton.Enabled) NEXRADZoom();
   });

@@ -8,7 +8,6 @@
 #include "feed/forecast.h"
 #include "feed/observations.h"
 #include "forms/main_form.h"
-#include "settings/location_profiles.h"
 #include "settings/settings.h"
 #include "weather/periods.h"
 #include "weather/time.h"
@@ -28,7 +27,7 @@ int StartHour() { return WholeNumber(Settings.StartHourIndex); }
 
 // A moment of the location with its zone.
 std::string ZonedTime(const std::string& time) {
-  return Format(time, "dddd h:nn AM/PM") + " " + LocationZone(SelectedLocation());
+  return Format(ReadDate(time), "dddd h:nn AM/PM") + " " + LocationZone(SelectedLocation());
 }
 
 std::string PeriodOf(Date time, std::string (*name)(const std::string&)) {
@@ -54,12 +53,10 @@ void FillPeriods(int first_hour, int count, int step, std::string (*name)(const 
 
 // The departures that are not past.
 void FillDepartures(int count) {
-  const int location = SelectedLocation();
-  const auto offset = [&](int row) { return LenientNumber(LocationProfile[row][location]); };
-  const long long shift = RoundHalfEven(offset(ProfileRow::TimeZone) + offset(ProfileRow::Dst));
-  const Date first = ReadDate(LocalTimeAt(StartHour()));
-  Date time = DateAdd(DateUnit::Hours, shift + 1, ReadDate(Observations.ModelServerTrip));
   Browser.FirstRouteFrame = 0;
+  const long long shift = LocationOffset(SelectedLocation());
+  Date time = DateAdd(DateUnit::Hours, shift + 1, ReadDate(Observations.ModelServerTrip));
+  const Date first = ReadDate(LocalTimeAt(StartHour()));
   for (int frame = 1; frame <= count || frame == 1; ++frame) {
     if (time >= first) {
       AddTime(PeriodOf(time, GetWeekDayNightPeriod));
@@ -72,7 +69,7 @@ void FillDepartures(int count) {
 
 }  // namespace
 
-void FillTimes(int code, int count) {
+bool FillTimes(int code, int count) {
   const int location = SelectedLocation();
   switch (code) {
     case 0:
@@ -98,9 +95,13 @@ void FillTimes(int code, int count) {
       SetRange(0, 1);
       AddTime(ZonedTime(DateText(LocationTime(location))));
       break;
-    case 11: FillDepartures(count); break;
-    default: break;
+    case 11:
+      FillDepartures(count);
+      return true;
+    default:
+      return true;
   }
+  return false;
 }
 
 }  // namespace skyloft

@@ -21,9 +21,8 @@ constexpr double kPixelsPerLongitude = 100, kPixelsPerLatitude = 140;  // of a r
 constexpr int kTrimX = 12, kTrimY = -2;
 constexpr double kRadarCentre = 310;  // pixels from the left and the top
 constexpr int kPointRadius = 3;
-constexpr int kRectangleTool = 3;
 
-// From the site to a location on its radar picture, pixels right and down.
+// From the site to a location on its radar picture, pixels left and down.
 struct Offset {
   double x, y;
 };

@@ -11,7 +11,8 @@ struct GeoPoint {
   double latitude, longitude;  // degrees, north and east positive
 };
 
-// Degrees become radians by the constant 0.017453292, with no more digits.
+// Degrees become radians by the constant 0.017453292, with no more digits. There is no place for the point
+// opposite to the centre.
 MapPoint LocationToMap(double longitude, double latitude);
 // The other way round; raises for a point off the map.
 GeoPoint MapToLocation(double x, double y);

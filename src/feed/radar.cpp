@@ -1,15 +1,15 @@
 #include "feed/radar.h"
 
-#include <vector>
+#include <utility>
 
 #include "base/guard.h"
 #include "base/values.h"
+#include "feed/radar_colors.h"
 #include "feed/transport.h"
 #include "forms/main_form.h"
 #include "forms/system_options_form.h"
 #include "platform/clock.h"
 #include "platform/files.h"
-#include "platform/pictures.h"
 #include "settings/location_profiles.h"
 #include "settings/settings.h"
 #include "weather/time.h"
@@ -18,17 +18,6 @@ namespace skyloft {
 namespace {
 
 constexpr double kFreshMinutes = 15;  // of a frame asked for by the user
-
-// In their order: the third colour of the first step must not be taken for the black of the second.
-const std::vector<ColorReplacement> kRadarColors = {
-    {{0, 0, 0}, {90, 90, 80}},
-    {{0, 139, 0}, {0, 0, 0}},
-    {{205, 0, 0}, {255, 75, 75}},
-};
-
-std::string CharactersOf(const std::string& text, int first, int count) {
-  return std::string(LeftText(MiddleText(text, first), count));
-}
 
 // Deletes the site's old frames among the files; whether none of the others is fresh.
 bool NeedsFrame(const std::vector<std::string>& files, const std::string& site, Date now,
@@ -73,7 +62,7 @@ void GetNexradData(int mode) {
 void ConvertRadarImage(std::string& path) {
   Guarded([&] {
     const std::string target = std::string(LeftText(path, static_cast<int>(path.size()) - 3)) + "png";
-    ConvertPicture(path, target, kRadarColors);
+    ConvertPicture(path, target, RadarColors());
     const std::string source = std::exchange(path, target);
     DeleteFile(source);
   });
@@ -91,9 +80,9 @@ bool IsFrameOf(const std::string& file, const std::string& prefix, const std::st
 }
 
 Date FrameTime(const std::string& file) {
-  return ReadDate(CharactersOf(file, 19, 2) + ":" + CharactersOf(file, 21, 2) + " " +
-                  CharactersOf(file, 11, 2) + "/" + CharactersOf(file, 13, 2) + "/" +
-                  CharactersOf(file, 15, 4));
+  const auto part = [&](int first, int count) { return std::string(MiddleText(file, first, count)); };
+  return ReadDate(part(19, 2) + ":" + part(21, 2) + " " + part(11, 2) + "/" + part(13, 2) + "/" +
+                  part(15, 4));
 }
 
 Date PresentGMT() {

@@ -20,7 +20,7 @@ void GetNexradData(int mode);
 // one's. A picture that cannot be read or written stays, with its path.
 void ConvertRadarImage(std::string& path);
 
-// The address of a radar picture of the selected location; `product` is the part that names its kind.
+// The address of a radar picture of a location's site; `product` is the part that names its kind.
 std::string RadarUrl(const std::string& product, int slot);
 // The site of a location, in lower case.
 std::string RadarSite(int slot);

@@ -6,7 +6,6 @@
 namespace skyloft {
 namespace {
 
-constexpr int kRectangleTool = 3;
 constexpr double kLargestZoom = 32;  // a view of a few pixels
 
 }  // namespace

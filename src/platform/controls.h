@@ -115,6 +115,8 @@ class ImageButton : public Picture {
   Event MouseDown, MouseUp;
 };
 
+inline constexpr int kRectangleTool = 3;  // of ImageView: the mouse spans a rectangle to zoom
+
 // A text laid over a picture.
 struct OverlayText {
   std::string text;
@@ -134,7 +136,7 @@ class ImageView : public Picture {
   void Drag(int x1, int y1, int x2, int y2);
   Property<double> Zoom{this, 1.0};
   Property<int> ViewX{this}, ViewY{this};            // origin of the view in unscaled picture pixels
-  Property<int> MouseTool{this};                     // 0 none, 3 a rectangle to zoom
+  Property<int> MouseTool{this};                     // 0 none, or kRectangleTool
   Property<std::vector<OverlayText>> Overlay{this};  // bold, white, 18 pixels high
   MouseEvent MouseDown;
 };

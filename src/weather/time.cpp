@@ -80,12 +80,15 @@ std::string GetExpirationGMT(const std::string& reference, int day, int hour, in
   return TryReadDate(stamp, date) ? DateText(date) : stamp;
 }
 
+long long LocationOffset(int slot) {
+  return RoundHalfEven(ProfileNumber(ProfileRow::TimeZone, slot) + ProfileNumber(ProfileRow::Dst, slot));
+}
+
 Date LocationTime(int slot) {
   int dst = 0;
   const Date now = Now();
   const std::int64_t computer_offset = DateDiff(DateUnit::Hours, ReadDate(GetGMT(DateText(now), dst)), now);
-  const double offset = ProfileNumber(ProfileRow::TimeZone, slot) + ProfileNumber(ProfileRow::Dst, slot);
-  return DateAdd(DateUnit::Hours, RoundHalfEven(offset) - computer_offset, now);
+  return DateAdd(DateUnit::Hours, LocationOffset(slot) - computer_offset, now);
 }
 
 std::string LocationZone(int slot) {

@@ -34,6 +34,8 @@ std::string GetWeekDayNightPeriod(const std::string& time);
 // No caller.
 std::string GetExpirationGMT(const std::string& reference, int day, int hour, int minute);
 
+// Hours from GMT of a location, the daylight hour added.
+long long LocationOffset(int slot);
 // The present local time of a location.
 Date LocationTime(int slot);
 // The code of its zone, now.

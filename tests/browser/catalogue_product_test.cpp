@@ -309,5 +309,38 @@ TEST_F(CatalogueProduct, ANewMapStartsUnzoomedAtItsCorner) {
   EXPECT_EQ(MainForm.Display1.ViewX + MainForm.Display1.ViewY, 0);
 }
 
+TEST_F(CatalogueProduct, AMissingHourMakesTheListShorterOrEmpty) {
+  ForecastHour[0][10].Lt = "";
+  Choose("3", "12");
+  EXPECT_EQ(Times(), (Names{"Friday 3:00 PM CST", "Friday 4:00 PM CST"}));
+  EXPECT_EQ(MainForm.TimeSelection.ListIndex(), -1);
+  ForecastHour[0][0].Lt = "";
+  for (const char* code : {"1", "4"}) {
+    Choose(code, "3");
+    EXPECT_EQ(Times(), Names{}) << code;
+  }
+  ObservationRecord.Lt[0] = "";
+  Choose("0", "1");
+  EXPECT_EQ(Times(), Names{});
+}
+
+TEST_F(CatalogueProduct, ALegendThatIsNoPictureLeavesTheTitle) {
+  Doubles.Reply("file.skyloft.example/", "garbage");
+  Doubles.missing_pictures.insert("C:\\program files\\skyloft\\legends\\wind_legend.gif");
+  Doubles.during_fetch = [](const std::string&) { MainForm.ProductTitle.Caption = "downloading"; };
+  Choose("4", "2");
+  EXPECT_EQ(MainForm.ProductTitle.Caption.Get(), "Wind Friday, Mar 07");
+}
+
+TEST_F(CatalogueProduct, AnotherTownShowsTheSameMapInItsView) {
+  SetUpLocations(2);
+  Choose("4", "3");
+  Doubles.requests.clear();
+  MainForm.LocationSelection.Select(1);
+  EXPECT_EQ(Settings.Location, "1");
+  EXPECT_EQ(MainForm.ProductTitle.Caption.Get().find("Wind"), 0u);
+  EXPECT_TRUE(MainForm.Display1.Visible);
+}
+
 }  // namespace
 }  // namespace skyloft

@@ -66,6 +66,10 @@ TEST_F(PointClick, TheReplyStandsInTheBanner) {
 
 TEST_F(PointClick, OnlyAMapOfTheForecastsAtScaleWithoutAToolTells) {
   EXPECT_NE(Ask(320, 240), "");
+  Doubles.requests.clear();
+  MainForm.Display1.MouseDown({320, 240, MouseButton::Right});
+  MainForm.Display1.MouseDown({320, 240, MouseButton::Double});
+  EXPECT_TRUE(Doubles.requests.empty());
   MainForm.Display1.Zoom = 1.1;
   EXPECT_EQ(Ask(320, 240), "");
   MainForm.Display1.Zoom = 1.0;

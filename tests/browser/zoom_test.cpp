@@ -122,11 +122,32 @@ TEST_F(ZoomTest, ADragWithoutTheToolOrWithoutARectangleDoesNothing) {
 
 TEST_F(ZoomTest, TheViewButtonsChangeTheSectorAndShowItsPicture) {
   Catalogues.SectorIDPrevious = "before";
+  std::string product;
+  for (const auto& [tag, text] : {std::pair{"id", "2"},
+                                  {"product", "Wind"},
+                                  {"category", "0"},
+                                  {"code", "0"},
+                                  {"period", "1"},
+                                  {"file", "wind"},
+                                  {"type", "gif"}}) {
+    product += Element(tag, text);
+  }
+  const auto sector = [](const char* name, const char* edge) {
+    return Element("sector", name) + Element("xmin", "-" + std::string(edge)) + Element("xmax", edge) +
+           Element("ymin", "-" + std::string(edge)) + Element("ymax", edge);
+  };
+  Doubles.Reply("products.", Reply(product));
+  Doubles.Reply("sectors.", Reply(sector("200", "9000000") + sector("2a", "8000000")));
+  Doubles.Reply("wind.", "picture");
+  GetProductData();
+  GetSectorData();
   MainForm.ProductSelection.Click = {};
-  MainForm.ProductSelection.AddItem("001 Wind");
-  MainForm.ProductSelection.Select(0);
+  GetAvailableProducts(0);
   Browser.SelectedProduct = "Wind";
+  const std::string temp = "C:\\program files\\skyloft\\temp\\";
   MainForm.NationalButton.Press();
+  EXPECT_EQ(Catalogues.SectorID, "200");
+  EXPECT_EQ(MainForm.Display1.PicturePath(), temp + "wind.200.gif");
   EXPECT_TRUE(MainForm.LocalButton.Enabled && MainForm.LocalButton.Visible);
   EXPECT_FALSE(MainForm.NationalButton.Enabled || MainForm.ZoomInButton.Enabled ||
                MainForm.ZoomOutButton.Enabled || MainForm.AreaZoomButton.Enabled ||
@@ -138,6 +159,7 @@ TEST_F(ZoomTest, TheViewButtonsChangeTheSectorAndShowItsPicture) {
   EXPECT_TRUE(MainForm.NationalButton.Enabled && MainForm.ZoomInButton.Enabled &&
               MainForm.AreaZoomButton.Enabled);
   EXPECT_EQ(Start.LocalView, "True");
+  EXPECT_EQ(Catalogues.SectorXMax, 9000000) << "of two with one centre the first: it is of the family too";
   EXPECT_EQ(MainForm.ProductTitle.Caption.Get(), "Wind ");
 }
 

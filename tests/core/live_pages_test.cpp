@@ -91,6 +91,7 @@ TEST_F(LivePages, APictureThatNeverComesLeavesTheFormerAndTheNextChoiceFetchesAg
   EXPECT_EQ(MainForm.Display1.PicturePath(), "former");
   EXPECT_TRUE(MainForm.HttpData.Idle());
   ConnectTo({});
+  MainForm.HttpData.Timeout = 60000;
   MainForm.ProductSelection.Select(0);
   EXPECT_EQ(MainForm.Display1.PicturePath(), "C:\\program files\\skyloft\\temp\\obstemp.200.gif");
 }

@@ -28,7 +28,7 @@ TEST_F(Projection, OnTheMiddleMeridianTheDistanceIsTheChord) {
 }
 
 // Equal areas: a cap of radius c has the area 2 pi R^2 (1 - cos c), the disc on the map pi rho^2.
-TEST_F(Projection, PointsOfOneDistanceFromTheCentreLieOnOneCircle) {
+TEST_F(Projection, APointLiesAsFarOutAsItsCapHasArea) {
   // 90 degrees of longitude along a great circle from the centre: the equator at 170 E lies 40 + 90 degrees
   // off.
   const MapPoint west = LocationToMap(-120, 40);

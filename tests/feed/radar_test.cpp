@@ -104,14 +104,14 @@ TEST_F(Radar, TwoLocationsWithOneSiteBothFetch) {
   EXPECT_EQ(Files(), Names{"nexr.ktw0.030720032005.png"});
 }
 
-TEST_F(Radar, TwoFramesOfOneMinuteAreOne) {
-  Doubles.Reply("/radar/", "first");
-  Fetched(1);
-  PutFrame(0, 30);
-  Doubles.files.erase(kTemp + "nexr.ktw0.030720032005.png");
-  Doubles.Reply("/radar/", "second");
-  Fetched(1);
+TEST_F(Radar, TheSecondOfTwoFramesOfOneMinuteReplacesTheFirst) {
+  LocationProfile[ProfileRow::NEXRADLocation][1] = "ktw0";
+  LocationProfile[ProfileRow::NEXRADServer][1] = "other.skyloft.example";
+  Doubles.Reply("radar.skyloft.example/", "first");
+  Doubles.Reply("other.skyloft.example/", "second");
+  GetNexradData(0);
   EXPECT_EQ(Doubles.files[kTemp + "nexr.ktw0.030720032005.png"], "second");
+  EXPECT_EQ(Files().size(), 1u);
 }
 
 TEST_F(Radar, AFailedDownloadOrConversionLeavesTheFramesAndGoesOnWithTheNextSite) {

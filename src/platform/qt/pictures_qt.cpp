@@ -70,7 +70,8 @@ QImage PictureOf(const std::string& path) {
 
 QRgb RgbOf(PictureColor color) { return qRgb(color.red, color.green, color.blue); }
 
-// The picture with a table of its colours, which replaces and writes fast; as it is when it has more than 256.
+// The picture with a table of its colours, which replaces and writes fast; as it is when it has more than
+// 256.
 QImage WithColorTable(const QImage& image) {
   if (image.colorCount() > 0) return image;
   const QImage source = image.convertToFormat(QImage::Format_ARGB32);
@@ -126,7 +127,9 @@ QImage LoadedPicture(const std::string& path) {
   const QImage now = PictureOf(path);
   if (!now.isNull()) return now;
   const auto kept = FindKept(path);
-  return kept == Kept().end() ? now : kept->image;
+  if (kept == Kept().end()) return now;
+  Kept().splice(Kept().begin(), Kept(), kept);
+  return kept->image;
 }
 
 QImage ReadPicture(const std::string& path) {

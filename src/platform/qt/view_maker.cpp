@@ -105,7 +105,7 @@ class ViewMaker : public ControlVisitor {
     Keep(model, view, [&model, view] {
       view->SetView(LoadedPicture(model.PicturePath()), model.Zoom, QPoint(model.ViewX, model.ViewY));
       view->SetOverlay(model.Overlay);
-      view->SetRectangleTool(model.MouseTool == 3);
+      view->SetRectangleTool(model.MouseTool == kRectangleTool);
     });
   }
 

@@ -8,6 +8,7 @@
 #include <QImage>
 #include <QTemporaryDir>
 
+#include "feed/radar_colors.h"
 #include "forms/main_form.h"
 #include "platform/files.h"
 #include "platform/qt/drive.h"
@@ -17,8 +18,6 @@ namespace skyloft {
 namespace {
 
 const std::string kTemp = "C:\\program files\\skyloft\\temp\\";
-const std::vector<ColorReplacement> kRadar = {
-    {{0, 0, 0}, {90, 90, 80}}, {{0, 139, 0}, {0, 0, 0}}, {{205, 0, 0}, {255, 75, 75}}};
 
 class RealPictures : public ::testing::Test {
  protected:
@@ -55,7 +54,7 @@ TEST_F(RealPictures, ColoursAreReplacedExactlyAndOneReplacementAfterTheOther) {
                         qRgb(90, 90, 80)};
   for (int x = 0; x < 5; ++x) radar.setPixel(x, 0, before[x]);
   ASSERT_TRUE(radar.save(Local("radar.bmp"), "BMP"));
-  ConvertPicture(kTemp + "radar.bmp", kTemp + "radar.png", kRadar);
+  ConvertPicture(kTemp + "radar.bmp", kTemp + "radar.png", RadarColors());
   const QImage png(Local("radar.png"), "PNG");
   ASSERT_EQ(png.size(), radar.size());
   for (int x = 0; x < 5; ++x) EXPECT_EQ(png.pixel(x, 0), after[x]) << x;
@@ -66,7 +65,7 @@ TEST_F(RealPictures, APictureOfManyColoursIsConvertedToo) {
   for (int i = 0; i < 4096; ++i) picture.setPixel(i % 64, i / 64, qRgb(i % 256, i / 256, 7));
   picture.setPixel(63, 63, qRgb(0, 139, 0));
   ASSERT_TRUE(picture.save(Local("many.png"), "PNG"));
-  ConvertPicture(kTemp + "many.png", kTemp + "out.png", kRadar);
+  ConvertPicture(kTemp + "many.png", kTemp + "out.png", RadarColors());
   const QImage png(Local("out.png"));
   EXPECT_EQ(png.pixel(63, 63), qRgb(0, 0, 0));
   EXPECT_EQ(png.pixel(62, 63), picture.pixel(62, 63));
@@ -77,7 +76,7 @@ TEST_F(RealPictures, WhatIsNoPictureRaisesAndWritesNothing) {
   // The head of a GIF of 60000 by 60000 pixels.
   WriteFile(kTemp + "bomb.gif", std::string("GIF89a\x60\xea\x60\xea\x80\0\0", 13) + std::string(100, ','));
   for (const char* name : {"missing.gif", "garbage.gif", "bomb.gif"}) {
-    EXPECT_THROW(ConvertPicture(kTemp + name, kTemp + "out.png", kRadar), RuntimeError) << name;
+    EXPECT_THROW(ConvertPicture(kTemp + name, kTemp + "out.png", RadarColors()), RuntimeError) << name;
     EXPECT_FALSE(FileExists(kTemp + "out.png"));
     MainForm.Display1.SetPicture("former", 3, 4);
     EXPECT_THROW(LoadPicture(MainForm.Display1, kTemp + name), RuntimeError) << name;
