@@ -92,13 +92,13 @@ std::string HourlyXml(const std::vector<Spot>& spots, Date now, std::uint64_t se
   return std::move(xml).Finish();
 }
 
-// One stop of a trip. An hour that is no date has no row.
+// One stop of a trip, at an hour of the clock there. An hour that is no date has no row.
 std::string SingleHourXml(const std::vector<Spot>& spots, std::string_view hour_text, std::uint64_t seed) {
   XmlDocument xml("hour");
   Date hour;
   if (!TryReadDate(hour_text, hour)) return std::move(xml).Finish();
   for (const Spot& spot : spots) {
-    const Moment moment = ForecastAt(spot, hour, seed);
+    const Moment moment = ForecastAt(spot, GmtOf(*spot.place, hour), seed);
     AddRow(xml, moment, kHourlyTags);
     AddRow(xml, moment, kStopTags);
   }

@@ -231,4 +231,10 @@ Date LocalTime(const Place& place, Date gmt) {
   return DateAdd(DateUnit::Hours, place.gmt_offset + (IsDaylightTime(place, gmt) ? 1 : 0), gmt);
 }
 
+Date GmtOf(const Place& place, Date local) {
+  const Date standard = DateAdd(DateUnit::Hours, -place.gmt_offset, local);
+  const Date daylight = DateAdd(DateUnit::Hours, -1, standard);
+  return LocalTime(place, daylight) == local ? daylight : standard;
+}
+
 }  // namespace skyloft::feed

@@ -38,5 +38,7 @@ const Place& NearestPlace(Point point);
 // November, 2 AM on the clock. Source: Energy Policy Act of 2005, in force since 2007; taken for all years.
 bool IsDaylightTime(const Place& place, Date gmt);
 Date LocalTime(const Place& place, Date gmt);
+// The moment at which the place's clock shows that time; of an hour that comes twice the first.
+Date GmtOf(const Place& place, Date local);
 
 }  // namespace skyloft::feed

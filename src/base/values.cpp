@@ -117,6 +117,11 @@ std::string NumberText(double number) {
   return {buffer.data(), result.ptr};
 }
 
+std::string ThreeDigits(int number) {
+  const std::string digits = std::to_string(number);
+  return std::string(digits.size() < 3 ? 3 - digits.size() : 0, '0') + digits;
+}
+
 std::string BooleanText(bool value) { return value ? "True" : "False"; }
 
 // nearbyint obeys the rounding mode, which nothing in the program changes from "to nearest, halves to even".

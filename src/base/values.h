@@ -17,6 +17,9 @@ double StrictNumber(std::string_view text);
 // Up to 15 significant digits, no trailing zeros or point, always ".": "0.01", "0.3" for 0.1 + 0.2, "-5".
 std::string NumberText(double number);
 
+// A whole number, not negative, with at least three digits: 7 is "007".
+std::string ThreeDigits(int number);
+
 // "True" or "False".
 std::string BooleanText(bool value);
 

@@ -90,10 +90,7 @@ std::optional<FrameSeries> FramesOf(int code, int count) {
   return series;
 }
 
-std::string HourText(int hour) {
-  const std::string digits = std::to_string(hour);
-  return std::string(digits.size() < 3 ? 3 - digits.size() : 0, '0') + digits + ".";
-}
+std::string HourText(int hour) { return ThreeDigits(hour) + "."; }
 
 std::string FrameName(const std::string& file, const std::string& sector, const FrameFile& frame,
                       const std::string& type) {

@@ -89,12 +89,6 @@ int NearestSector(std::string_view family, double x, double y) {
   return chosen;
 }
 
-// The place of a product in the catalogue, from 1, with three digits.
-std::string ChannelNumber(int place) {
-  const std::string digits = std::to_string(place);
-  return std::string(digits.size() < 3 ? 3 - digits.size() : 0, '0') + digits;
-}
-
 }  // namespace
 
 void GetSectorData() {
@@ -143,7 +137,7 @@ void GetAvailableProducts(int category) {
     int k = 0;
     for (int i = 0; i <= records.last; ++i) {
       if (LenientNumber(records.category[i]) != category) continue;
-      MainForm.ProductSelection.AddItem(ChannelNumber(i + 1) + " " + records.product[i]);
+      MainForm.ProductSelection.AddItem(ThreeDigits(i + 1) + " " + records.product[i]);
       Catalogues.ProductMap[k++] = i;
     }
     MainForm.ProductSelection.Select(0);

@@ -207,5 +207,12 @@ TEST(Values, AWholeNumberOfATextIsRoundedToTheEvenNeighbourAndNeverWraps) {
     EXPECT_THROW(WholeNumber(text), RuntimeError) << text;
 }
 
+TEST(Values, ANumberHasAtLeastThreeDigits) {
+  for (const auto& [number, text] :
+       {std::pair{0, "000"}, {7, "007"}, {42, "042"}, {123, "123"}, {1000, "1000"}}) {
+    EXPECT_EQ(ThreeDigits(number), text);
+  }
+}
+
 }  // namespace
 }  // namespace skyloft

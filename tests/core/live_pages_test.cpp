@@ -4,10 +4,14 @@
 #include <QDir>
 #include <QDirIterator>
 
+#include "base/values.h"
 #include "core/live_station.h"
 #include "core/mainform.h"
 #include "core/refresh.h"
 #include "feed/catalogues.h"
+#include "feed/forecast.h"
+#include "feed/projection.h"
+#include "weather/periods.h"
 
 namespace skyloft {
 namespace {
@@ -94,6 +98,27 @@ TEST_F(LivePages, APictureThatNeverComesLeavesTheFormerAndTheNextChoiceFetchesAg
   MainForm.HttpData.Timeout = 60000;
   MainForm.ProductSelection.Select(0);
   EXPECT_EQ(MainForm.Display1.PicturePath(), "C:\\program files\\skyloft\\temp\\obstemp.200.gif");
+}
+
+TEST_F(LivePages, AClickOnAMapTellsTheHourOfTheMap) {
+  LocationProfile[ProfileRow::TimeZone][0] = "-6";
+  LocationProfile[ProfileRow::Latitude][0] = "38.97";
+  LocationProfile[ProfileRow::Longitude][0] = "-95.24";
+  SaveSystem();
+  MainForm.LocationSelection.Clear();
+  LoadMainForm();
+  MainForm.CategorySelection.Select(1);
+  ASSERT_EQ(MainForm.ProductSelection.Text().substr(4), "Surface Temperature");
+  const CatalogueState& map = Catalogues;
+  const MapPoint town = LocationOnMap(0);
+  const double x =
+      (town.x - map.SectorXMin) / (map.SectorXMax - map.SectorXMin) * LenientNumber(map.ImageWidth);
+  const double y =
+      (map.SectorYMax - town.y) / (map.SectorYMax - map.SectorYMin) * LenientNumber(map.ImageHeight);
+  MainForm.Display1.MouseDown({static_cast<int>(x), static_cast<int>(y), MouseButton::Left});
+  const std::string& time = ForecastHour[0][Periods.HourIndex].Lt;
+  const std::string page = MainForm.WeatherConditionsBanner.Document;
+  EXPECT_NE(page.find("Lawrence, KS" + time + " CST"), std::string::npos) << time << page;
 }
 
 // Nothing of a catalogue's names leads out of the temp folder.

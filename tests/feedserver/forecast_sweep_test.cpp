@@ -129,7 +129,7 @@ TEST(ForecastSweep, StopsOfATripHavePhrasesOfTheirHalf) {
     const std::string time = Format(MakeDate(2003, 3, 8, hour), "m%2Fd%2Fyyyy+h%3Ann%3Ass+AM/PM");
     const Elements stop =
         Ask(std::string("lat=38.97&long=-95.24&t=xml&st=").append(time).append("&et=").append(time));
-    ASSERT_EQ(PartsOf(StampOf(First(stop, "Ut"))).hour, hour);
+    ASSERT_EQ(PartsOf(StampOf(First(stop, "Lt"))).hour, hour);
     ExpectHalves(stop);
   }
 }

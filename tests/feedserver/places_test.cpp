@@ -87,6 +87,20 @@ TEST(Places, DaylightTimeRunsFromMarchToNovember) {
   }
 }
 
+TEST(Places, AnHourOfAPlacesClockIsFoundAgain) {
+  const Date moments[] = {MakeDate(2008, 1, 1, 3), MakeDate(2008, 7, 1, 3), MakeDate(2008, 3, 9, 7),
+                          MakeDate(2008, 3, 9, 8), MakeDate(2008, 11, 2, 6)};
+  for (const char* zip : {"66044", "33131", "80202", "98101", "96813"}) {
+    for (const Date gmt : moments) {
+      const Place& place = *FindPlace(zip);
+      EXPECT_EQ(LocalTime(place, GmtOf(place, LocalTime(place, gmt))), LocalTime(place, gmt)) << zip;
+    }
+  }
+  // At 1:00 the clocks of Lawrence go round twice; the first time is meant.
+  EXPECT_EQ(GmtOf(*FindPlace("66044"), MakeDate(2008, 11, 2, 1)), MakeDate(2008, 11, 2, 6));
+  EXPECT_EQ(GmtOf(*FindPlace("66044"), MakeDate(2008, 7, 1, 10)), MakeDate(2008, 7, 1, 15));
+}
+
 TEST(Places, LocalTimeFollowsTheZone) {
   const Date winter = MakeDate(2008, 1, 1, 3, 30, 0), summer = MakeDate(2008, 7, 1, 3, 30, 0);
   EXPECT_EQ(LocalTime(*FindPlace("66044"), winter), MakeDate(2007, 12, 31, 21, 30, 0));
