@@ -15,6 +15,7 @@
 #include "base/dates.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
+#include "platform/mail.h"
 #include "platform/registry_store.h"
 #include "platform/screen.h"
 #include "platform/tray.h"
@@ -43,6 +44,10 @@ struct DoublesState {
   std::function<void(const std::string& url)> during_fetch;
   std::vector<int> dials;
   Failure http_failure;
+
+  // mail: every send, failed ones too
+  std::vector<std::pair<MailRelay, Mail>> mails;
+  Failure mail_failure;
 
   // files, by lower-case path
   std::map<std::string, std::string> files;
