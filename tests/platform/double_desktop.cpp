@@ -1,7 +1,9 @@
-// The desktop: windows, boxes, shell, screen and process.
+// The desktop: windows, boxes, shell, sound, speech, screen and process.
 #include "platform/doubles.h"
 #include "platform/process.h"
 #include "platform/shell.h"
+#include "platform/sound.h"
+#include "platform/speech.h"
 #include "platform/tray.h"
 
 namespace skyloft {
@@ -27,6 +29,9 @@ BoxAnswer ShowBox(BoxKind kind, const std::string& text) {
 
 void OpenLink(const std::string& address) { Doubles.links.push_back(address); }
 void StartUpdate(const std::string& path) { Doubles.started_updates.push_back(path); }
+
+void PlaySound(const std::string& path) { Doubles.sounds.push_back(path); }
+void Speak(const std::string& text) { Doubles.spoken.push_back(text); }
 
 int DotsPerInch() { return Doubles.dots_per_inch; }
 ScreenSize GetScreenSize() { return Doubles.screen; }

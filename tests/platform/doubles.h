@@ -70,6 +70,10 @@ struct DoublesState {
   std::vector<size_t> conversions;  // how many colours each conversion replaced
   Failure picture_failure;
 
+  // sound, speech
+  std::vector<std::string> sounds;
+  std::vector<std::string> spoken;
+
   // window, dialogs, shell, screen, process
   std::vector<RoundRegion> regions;
   int drags = 0;

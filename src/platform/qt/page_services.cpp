@@ -9,6 +9,7 @@
 #include "platform/qt/http_qt.h"
 #include "platform/qt/text_qt.h"
 #include "platform/shell.h"
+#include "platform/sound.h"
 
 namespace skyloft {
 namespace {
@@ -46,7 +47,7 @@ HtmlServices PageServices() {
           .own_sheet = OwnSheet,
           .fetch = FetchForPage,
           .open_link = [](const QString& url) { OpenLink(FromQt(url)); },
-          .play_sound = {}};
+          .play_sound = [](const QString& path) { PlaySound(FromQt(path)); }};
 }
 
 }  // namespace skyloft

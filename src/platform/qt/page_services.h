@@ -1,4 +1,4 @@
-// What pages may use of the program: its files, its fetches, the desktop's browser.
+// What pages may use of the program: its files, its fetches, its sounds, the desktop's browser.
 #pragma once
 
 #include <functional>

@@ -5,9 +5,9 @@
 #include <QDesktopServices>
 #include <QFile>
 #include <QFileInfo>
-#include <QProcess>
 #include <QUrl>
 
+#include "platform/qt/detached.h"
 #include "platform/qt/drive.h"
 #include "platform/qt/text_qt.h"
 #include "platform/qt/update_signature.h"
@@ -23,15 +23,9 @@ bool IsSignedFile(const QString& path, const std::string& key_hex) {
   return IsSigned({bytes.constData(), static_cast<size_t>(bytes.size())}, key_hex);
 }
 
-// A process on its own, which hears and says nothing and outlives this one.
-bool StartDetached(const QString& path) {
-  QProcess process;
-  process.setProgram(path);
-  process.setWorkingDirectory(QFileInfo(path).path());
-  process.setStandardInputFile(QProcess::nullDevice());
-  process.setStandardOutputFile(QProcess::nullDevice());
-  process.setStandardErrorFile(QProcess::nullDevice());
-  return QFile::setPermissions(path, QFile::permissions(path) | QFile::ExeOwner) && process.startDetached();
+bool Run(const QString& path) {
+  return QFile::setPermissions(path, QFile::permissions(path) | QFile::ExeOwner) &&
+         StartDetached(path, {}, QFileInfo(path).path());
 }
 
 }  // namespace
@@ -47,7 +41,7 @@ void StartUpdate(const std::string& path) { StartUpdateWithKey(path, SKYLOFT_UPD
 void StartUpdateWithKey(const std::string& path, const std::string& key_hex) {
   const auto file = PathForReading(path);
   const bool is_signed = file && IsSignedFile(*file, key_hex);
-  if (is_signed && StartDetached(*file)) return;
+  if (is_signed && Run(*file)) return;
   std::fprintf(stderr, "skyloft: the update %s %s; it was not started\n", path.c_str(),
                is_signed ? "cannot be run" : "is not signed");
 }

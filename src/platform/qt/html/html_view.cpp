@@ -57,7 +57,7 @@ void HtmlView::SetDocument(const std::string& html) {
   scroll_ = 0;
   Build();
   ShowScroller();
-  PlaySounds();
+  PlaySound();
 }
 
 bool HtmlView::Idle() const { return loader_->Idle() && !posted_; }
@@ -110,12 +110,11 @@ void HtmlView::ShowScroller() {
   scroller_->show();
 }
 
-void HtmlView::PlaySounds() {
-  if (!document_ || !services_.play_sound) return;
-  for (const auto& sound : document_->root()->select_all("bgsound")) {
-    const QString path = LocalPathOf(AttributeOf(sound, "src"));
-    if (!path.isEmpty()) QTimer::singleShot(0, this, [this, path] { services_.play_sound(path); });
-  }
+void HtmlView::PlaySound() {
+  const auto sound = document_ ? document_->root()->select_one("bgsound") : nullptr;
+  if (!sound || !services_.play_sound) return;
+  const QString path = LocalPathOf(AttributeOf(sound, "src"));
+  if (!path.isEmpty()) QTimer::singleShot(0, this, [this, path] { services_.play_sound(path); });
 }
 
 // Everything that must not happen inside the engine or a fetch is posted; several requests are one.

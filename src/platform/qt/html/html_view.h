@@ -25,7 +25,8 @@ class HtmlView : public QWidget {
   ~HtmlView() override;
 
   // Shows the complete document (windows-1252) in place of the former one. What is remote comes in later.
-  // Sounds of the page play once. A page too costly to lay out shows as an empty one.
+  // The first sound of the page plays once, if it is a local file. A page too costly to lay out shows as an
+  // empty one.
   void SetDocument(const std::string& html);
   // A click anywhere. Links are opened as well, by a posted call.
   std::function<void()> clicked;
@@ -49,7 +50,7 @@ class HtmlView : public QWidget {
   void LayOut();
   void Render(int width);
   void ShowScroller();
-  void PlaySounds();
+  void PlaySound();
   void Post(bool rebuild);
   void RunPosted();
   void ScrollTo(int y);

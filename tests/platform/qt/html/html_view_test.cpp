@@ -204,6 +204,29 @@ TEST_F(HtmlViewTest, SoundPlaysOnce) {
   EXPECT_EQ(played_, std::vector<QString>{"C:\\wav\\warning.wav"});
 }
 
+TEST_F(HtmlViewTest, EveryDocumentPlaysItsFirstSoundIfThatIsALocalFile) {
+  const std::pair<const char*, std::vector<QString>> cases[] = {
+      {"<html><head><bgsound src='file:C:\\a b\\w.wav'></head><body>x", {"C:\\a b\\w.wav"}},
+      {"<bgsound src='file:C:\\1.wav'><bgsound src='file:C:\\2.wav'>", {"C:\\1.wav"}},
+      {"<bgsound src='file:'>", {}},
+      {"<bgsound src=''>", {}},
+      {"<bgsound>", {}},
+      {"<bgsound src='http://a.example/w.wav'>", {}},
+      {"<bgsound src='/etc/w.wav'>", {}},
+      {"no sound", {}}};
+  const auto view = MakeView("");
+  for (const auto& [page, played] : cases) {
+    for (int loads = 0; loads < 2; ++loads) {
+      played_.clear();
+      view->SetDocument(page);
+      EXPECT_TRUE(played_.empty()) << "not while the page is laid out";
+      RunEvents();
+      EXPECT_EQ(played_, played) << page;
+    }
+  }
+  EXPECT_TRUE(asked_.empty());
+}
+
 TEST_F(HtmlViewTest, TallPagesScrollAndShortOnesDoNot) {
   const std::string tall =
       "<body bgcolor=white topmargin=0><div style='height:300px;background:#ff0000'></div>"
