@@ -22,6 +22,7 @@
 #include "forms/ticker_form.h"
 #include "settings/location_profiles.h"
 #include "settings/settings.h"
+#include "ticker/messages.h"
 #include "ticker/ticker.h"
 #include "weather/almanac.h"
 #include "weather/periods.h"
@@ -59,6 +60,7 @@ Station::Station() {
   ForecastPeriod = {};
   Refresh = {};
   TickerRotation = {};
+  Messages = {};
   HostAddress.WebHost = "www.skyloft.example";
   HostTable.forecastserver = "forecast.skyloft.example/";
   ApplySkin();

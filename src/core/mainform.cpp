@@ -38,6 +38,7 @@
 #include "setup/wizard.h"
 #include "ticker/messages.h"
 #include "ticker/ticker.h"
+#include "ticker/ticker_pages.h"
 #include "weather/almanac.h"
 #include "weather/periods.h"
 
@@ -47,9 +48,6 @@ StartState Start;
 
 namespace {
 
-constexpr const char* kBlankPage =
-    "<html><body bgcolor='000000' topmargin='0' leftmargin='0' marginheight='0' "
-    "marginwidth='0'></body></html>";
 constexpr int kTickerHeight = 525;
 
 void ShapeWindow() {
@@ -149,6 +147,9 @@ void ConnectForms() {
   ConnectPointClick();
   ConnectRefresh();
   ConnectTicker();
+  ConnectMessages();
+  ConnectBulletins();
+  ConnectPersonalAlerts();
   ConnectTray();
   ConnectWizard();
   ConnectMenu();
@@ -171,7 +172,7 @@ void LoadMainForm() {
     Chrome.TickerWindow.SetClient(&TickerForm);
     LoadSystem();
     Start.Loaded = true;
-    TickerForm.Ticker.Document = kBlankPage;
+    TickerForm.Ticker.Document = TickerBlankPage();
     TickerForm.Height = kTickerHeight;
     TickerForm.Width = GetWorkArea().width;
     TickerForm.Ticker.Height = kTickerHeight / kTwipsPerPixel;

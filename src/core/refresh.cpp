@@ -8,7 +8,6 @@
 #include "browser/images.h"
 #include "browser/radar_frames.h"
 #include "browser/selection.h"
-#include "core/chrome.h"
 #include "core/mainform.h"
 #include "feed/catalogues.h"
 #include "feed/forecast.h"
@@ -38,8 +37,6 @@ namespace {
 
 constexpr std::int64_t kOldestMinutes = 720;
 
-double TickSeconds() { return MainForm.UpdateTimer.Interval / 1000.0; }
-
 double SecondsOf(const ListControl& minutes) { return LenientNumber(minutes.Text()) * 60; }
 
 // Advances a counter by a tick; when it has reached its interval, clears it and tells so.
@@ -48,27 +45,6 @@ bool Due(double& counter, double interval) {
   if (counter < interval) return false;
   counter = 0;
   return true;
-}
-
-void HideUnwantedTicker() {
-  if (!SystemOptionsForm.ShowTicker.Checked) TickerForm.Visible = false;
-}
-
-// A button that waits for a click when there is something to replay.
-void ShowWaiting(const ImageButtonState& state, const char* lit, const std::string& alert) {
-  const bool waiting = !alert.empty();
-  state(BooleanText(waiting), "", IconPath(waiting ? lit : state.disabled));
-}
-
-void EndBulletin() {
-  Bulletins.NWSAlertActive = 0;
-  Bulletins.NWSAlertElapsed = 0;
-  Bulletins.NWSAlertDuration = 0;
-  HideUnwantedTicker();
-  ShowWaiting(TornadoButtonState, "tornados.gif", Bulletins.TornadoAlertText);
-  ShowWaiting(ThunderstormButtonState, "tstorms.gif", Bulletins.ThunderstormAlertText);
-  ShowWaiting(FloodButtonState, "floods.gif", Bulletins.FloodAlertText);
-  FindAlertMessage();
 }
 
 // No check takes place while a bulletin is on display.
@@ -88,12 +64,7 @@ void RefreshPersonalAlert() {
   PersonalAlertState& alert = PersonalAlertsState;
   if (alert.PersonalAlertActive != 1) return;
   alert.PersonalAlertElapsed += TickSeconds();
-  if (alert.PersonalAlertElapsed < alert.PersonalAlertDuration) return;
-  alert.PersonalAlertActive = 0;
-  alert.PersonalAlertElapsed = 0;
-  alert.PersonalAlertDuration = 0;
-  HideUnwantedTicker();
-  PersonalButtonState("True", "", IconPath("personals.gif"));
+  if (alert.PersonalAlertElapsed >= alert.PersonalAlertDuration) EndPersonalAlert();
 }
 
 void RefreshMessages() {
@@ -163,6 +134,8 @@ void FollowWorkArea() {
 }
 
 }  // namespace
+
+double TickSeconds() { return MainForm.UpdateTimer.Interval / 1000.0; }
 
 void TickClock() {
   Guarded([] {

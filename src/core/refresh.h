@@ -20,6 +20,9 @@ struct RefreshState {
 };
 extern RefreshState Refresh;
 
+// Seconds from one tick of the refresh to the next.
+double TickSeconds();
+
 // One second: the channel's number goes after three, the ticker takes a step unless an alert is on display,
 // the selected location's time is told, and the ticker follows its edge of the work area.
 void TickClock();

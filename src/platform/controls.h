@@ -156,6 +156,7 @@ class HtmlDisplay : public Control {
   const std::string& Address() const { return address_; }
   int Visits() const { return visits_; }  // how often Navigate was called
   Event Click;
+  Event SecondaryClick;  // with another button than the left
 
  private:
   std::string address_;

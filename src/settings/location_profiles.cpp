@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "base/guard.h"
+#include "base/values.h"
 #include "feed/forecast.h"
 #include "feed/observations.h"
 #include "platform/files.h"
@@ -182,6 +183,8 @@ void ClearSlot(int slot) {
 }
 
 }  // namespace
+
+bool IsProfileOn(int row, int slot) { return LenientNumber(LocationProfile[row][slot]) == 1; }
 
 void SaveLocationProfiles() {
   Guarded([] {

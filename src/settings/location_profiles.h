@@ -33,8 +33,52 @@ enum : int {
   NEXRADLatitude,
   NEXRADLongitude,
   NEXRADServer,
+  // Bulletins that the user wants to be told of, "1" or "0"; the other kinds are stored and not looked at.
+  TornadoWarning = 30,
+  SevereThunderstormWarning,
+  TornadoWatch = 38,
+  SevereThunderstormWatch,
+  FlashFloodWarning = 50,
+  FlashFloodWatch = 54,
+  // The user's own conditions: whether there are any, then switches with their thresholds, then switches.
+  SKLTPersonalAlert = 69,
+  MaximumTemperature,
+  MaximumTemperatureThreshold,
+  MinimumTemperature,
+  MinimumTemperatureThreshold,
+  HeatIndex,
+  HeatIndexThreshold,
+  WindChill,
+  WindChillThreshold,
+  WindSpeed,
+  WindSpeedThreshold,
+  HeavyRain,
+  ModerateRain,
+  LightRain,
+  RainShower,
+  Thunderstorm,
+  ThunderstormChance,
+  FreezingRain,
+  FreezingRainSnow,
+  RainSnow,
+  HeavySnow,
+  ModerateSnow,
+  LightSnow,
+  SnowShower,
+  // How alerts are delivered, of bulletins and of the user's own.
+  NWSAlertMessage = 100,
+  NWSAlertAudio,
+  NWSAlertVoice,
+  NWSAlertEmail,
+  SKLTAlertMessage = 105,
+  SKLTAlertAudio,
+  SKLTAlertVoice,
+  SKLTAlertEmail,
 };
 }  // namespace ProfileRow
+
+// Whether a switch of the profile is on: its number is 1.
+bool IsProfileOn(int row, int slot);
 
 // The addresses of the pictures of the last product shown, 67 cells that belong to no location.
 extern Table<std::string, 67> FrameUrl;
