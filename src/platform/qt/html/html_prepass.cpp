@@ -3,9 +3,12 @@
 #include <algorithm>
 #include <cstdlib>
 #include <optional>
+#include <utility>
 #include <vector>
 
+#include "base/values.h"
 #include "platform/qt/html/html_nesting.h"
+#include "platform/qt/html/html_scroll_text.h"
 
 namespace skyloft {
 namespace {
@@ -17,6 +20,7 @@ char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c
 
 struct Attribute {
   std::string name, value;
+  std::size_t at = 0;  // where its value stands in the page
 };
 
 // The numbers that the engine computes with; other attributes are texts.
@@ -44,7 +48,7 @@ int SpanOf(const std::vector<Attribute>& attributes) {
 
 class Tidier {
  public:
-  explicit Tidier(std::string_view page) : page_(page.substr(0, HtmlLimits::kBytes)) {}
+  explicit Tidier(std::string_view page) : whole_(page), page_(page.substr(0, HtmlLimits::kBytes)) {}
 
   std::string Run() {
     while (at_ < page_.size() && out_.size() < HtmlLimits::kBytes) {
@@ -125,6 +129,7 @@ class Tidier {
     if (Peek() == '=') {
       ++at_;
       SkipBlanks();
+      attribute.at = at_;
       attribute.value = ReadValue();
     }
     if (attribute.name.empty()) return std::nullopt;
@@ -150,7 +155,8 @@ class Tidier {
   void ReadStartTag() {
     ++at_;
     const std::string name = ReadName();
-    const std::vector<Attribute> attributes = ReadAttributes();
+    std::vector<Attribute> attributes = ReadAttributes();
+    if (name == "param") ReadScrollText(attributes);
     if (HtmlNesting::IsRaw(name)) {
       at_ = FindRawEnd(name);
     } else if (name == "style") {
@@ -159,6 +165,35 @@ class Tidier {
       const std::string text = TagText(name, attributes);
       if (nesting_.Opens(name, text, SpanOf(attributes))) out_ += text;
     }
+  }
+
+  // Reads the value of the scroller's text anew, as far as it goes; what follows has its own length.
+  void ReadScrollText(std::vector<Attribute>& attributes) {
+    const auto has_name = [](const char* name) {
+      return [name](const Attribute& attribute) { return attribute.name == name; };
+    };
+    const auto name = std::find_if(attributes.begin(), attributes.end(), has_name("name"));
+    const auto value = std::find_if(attributes.begin(), attributes.end(), has_name("value"));
+    if (name == attributes.end() || LowerCase(name->value) != "text") return;
+    if (value == attributes.end() || value < name || std::exchange(has_scroll_text_, true)) return;
+    const std::size_t next = std::min(FindTag("<param", value->at), FindTag("</applet", value->at));
+    const std::size_t close = whole_.substr(0, next).rfind('>');
+    if (close == whole_.npos || close < value->at) return;
+    std::string_view text = TrimText(whole_.substr(value->at, close - value->at));
+    const char quote = text.empty() ? '\0' : text.front();
+    if (quote == '"' || quote == '\'') text.remove_prefix(1);
+    if ((quote == '"' || quote == '\'') && text.ends_with(quote)) text.remove_suffix(1);
+    value->value = WithoutTags(text.substr(0, HtmlLimits::kScrollText));
+    at_ = close + 1;
+    page_ = whole_.substr(0, at_ + HtmlLimits::kBytes);
+    no_quote_from_[0] = no_quote_from_[1] = page_.npos;
+  }
+
+  // The next place where the whole page has this, in any case; its end if none.
+  std::size_t FindTag(std::string_view start, std::size_t from) const {
+    const auto* const found = std::search(whole_.begin() + from, whole_.end(), start.begin(), start.end(),
+                                          [](char a, char b) { return Lower(a) == b; });
+    return static_cast<std::size_t>(found - whole_.begin());
   }
 
   static std::string TagText(const std::string& name, const std::vector<Attribute>& attributes) {
@@ -207,11 +242,13 @@ class Tidier {
     if (nesting_.Closes(name)) out_ += "</" + name + '>';
   }
 
-  const std::string_view page_;
+  const std::string_view whole_;
+  std::string_view page_;  // what is read of it
   std::size_t at_ = 0;
   std::size_t no_quote_from_[2] = {std::string_view::npos, std::string_view::npos};  // ' and "
   std::string out_;
   HtmlNesting nesting_;
+  bool has_scroll_text_ = false;
   std::size_t style_left_ = HtmlLimits::kStyle;
 };
 

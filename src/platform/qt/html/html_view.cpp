@@ -96,7 +96,6 @@ void HtmlView::LayOut() {
   update();
 }
 
-// The scroller element takes the whole view, as on the pages that have it there is nothing else.
 void HtmlView::ShowScroller() {
   delete std::exchange(scroller_, nullptr);
   const auto applet = document_ ? document_->root()->select_one("applet") : nullptr;
@@ -106,8 +105,17 @@ void HtmlView::ShowScroller() {
     parameters.insert(AttributeOf(param, "name").toLower(), AttributeOf(param, "value"));
   }
   scroller_ = new HtmlScroller(parameters, this);
-  scroller_->setGeometry(rect());
+  scroller_size_ = {AttributeOf(applet, "width").toInt(), AttributeOf(applet, "height").toInt()};
+  PlaceScroller();
   scroller_->show();
+}
+
+// At the top of the view, in the middle, for on the pages that have a scroller there is nothing else.
+void HtmlView::PlaceScroller() {
+  if (!scroller_) return;
+  const int wide = scroller_size_.width() > 0 ? std::min(scroller_size_.width(), width()) : width();
+  const int high = scroller_size_.height() > 0 ? std::min(scroller_size_.height(), height()) : height();
+  scroller_->setGeometry((width() - wide) / 2, 0, wide, high);
 }
 
 void HtmlView::PlaySound() {
@@ -162,7 +170,7 @@ void HtmlView::paintEvent(QPaintEvent*) {
 }
 
 void HtmlView::resizeEvent(QResizeEvent*) {
-  if (scroller_) scroller_->setGeometry(rect());
+  PlaceScroller();
   if (size() != laid_out_) LayOut();
 }
 

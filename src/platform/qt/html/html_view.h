@@ -50,6 +50,7 @@ class HtmlView : public QWidget {
   void LayOut();
   void Render(int width);
   void ShowScroller();
+  void PlaceScroller();
   void PlaySound();
   void Post(bool rebuild);
   void RunPosted();
@@ -64,6 +65,7 @@ class HtmlView : public QWidget {
   std::string page_;                              // tidied, UTF-8
   QSize laid_out_;                                // the size of the view that the document was laid out for
   QWidget* scroller_ = nullptr;
+  QSize scroller_size_;     // as the page says; a side of 0 takes the view's
   bool scrollable_ = true;  // body { overflow: hidden } has no scroll bar
   bool posted_ = false, rebuild_ = false;
   int scroll_ = 0;  // pixels of the document above the view

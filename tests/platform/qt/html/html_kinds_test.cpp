@@ -133,7 +133,8 @@ std::string HourlyPage() {
 
 TEST(HtmlKinds, HourlyPlanner) {
   const QImage image = ShowKind("hourly", HourlyPage(), {604, 415});
-  EXPECT_EQ(Extent(image, kLabel).left(), 6 + 1 + 1) << "behind the page's margin, the table's line and the cell's";
+  EXPECT_EQ(Extent(image, kLabel).left(), 6 + 1 + 1)
+      << "behind the page's margin, the table's line and the cell's";
   const QPoint band = Find(image, Share("/backgrounds/hourlya.jpg").copy(0, 0, 200, 10));
   EXPECT_EQ(band, QPoint(6, 10)) << "the first band lies at the page's margins";
   const QPoint second = Find(image, Share("/backgrounds/dailya.jpg").copy(0, 0, 200, 10));

@@ -277,20 +277,6 @@ TEST_F(HtmlViewTest, RefusedAndForeignAddressesShowNothing) {
   EXPECT_TRUE(asked_.empty());
 }
 
-TEST_F(HtmlViewTest, AppletShowsItsTextRunning) {
-  const auto view =
-      MakeView("<applet code=x width=100 height=50><param name='Text' value='MMMMMMMMMMMMMM'></applet>");
-  ASSERT_EQ(view->findChildren<QWidget*>().size(), 1);
-  EXPECT_EQ(view->findChildren<QWidget*>()[0]->size(), view->size());
-  const auto text_begins = [&] { return Extent(Grab(*view), Qt::yellow); };
-  EXPECT_TRUE(text_begins().isNull());  // still outside, on the right
-  while (text_begins().isNull() || text_begins().left() > 150)
-    QApplication::processEvents(QEventLoop::WaitForMoreEvents);
-  EXPECT_NEAR(text_begins().right(), 199, 2);  // a letter may leave a pixel beside it
-  view->SetDocument("x");
-  EXPECT_TRUE(view->findChildren<QWidget*>().isEmpty());
-}
-
 TEST(HtmlAddresses, LocalOnesBecomePaths) {
   const std::pair<const char*, const char*> cases[] = {{"C:\\a b\\x.gif", "C:\\a b\\x.gif"},
                                                        {"file:C:\\x.gif", "C:\\x.gif"},
