@@ -36,6 +36,13 @@ bool Press(Control& control, const MousePress& press) {
   return target != nullptr;
 }
 
+template <class T>
+bool PressRight(Control& control) {
+  auto* target = dynamic_cast<T*>(&control);
+  if (target && target->Enabled) Raise([&] { Fire(target->SecondaryClick); });
+  return target != nullptr;
+}
+
 Timer* FindTimer(const std::string& name) {
   for (Form* form : AllForms()) {
     for (Control* control : form->Controls()) {
@@ -81,12 +88,9 @@ std::string PressControl(Control& control, const MousePress& press) {
     return "";
   }
   if (press_once(press)) return "";
-  if (auto* icon = dynamic_cast<TrayIcon*>(&control); icon && press.button == MouseButton::Right) {
-    if (icon->Enabled) Raise([&] { Fire(icon->SecondaryClick); });
-    return "";
-  }
-  return press.button == MouseButton::Right ? CannotBe(control, "pressed on the right")
-                                            : ClickControl(control);
+  if (press.button != MouseButton::Right) return ClickControl(control);
+  const bool pressed = PressRight<TrayIcon>(control) || PressRight<HtmlDisplay>(control);
+  return pressed ? "" : CannotBe(control, "pressed on the right");
 }
 
 std::string SelectEntry(Control& control, const std::string& entry, bool by_text) {

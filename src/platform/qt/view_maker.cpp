@@ -118,6 +118,7 @@ class ViewMaker : public ControlVisitor {
   void Visit(HtmlDisplay& model) override {
     auto* page = new HtmlView(PageServices(), ParentOf(model));
     page->clicked = [&model] { Raise([&] { model.Press(); }); };
+    page->secondary_clicked = [&model] { Raise([&] { Fire(model.SecondaryClick); }); };
     window_.pages_.push_back(page);
     auto shown = std::make_shared<std::pair<std::string, int>>("", 0);  // document and visit
     Keep(model, page, [&model, page, shown] {

@@ -212,6 +212,7 @@ void HtmlView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void HtmlView::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::RightButton && secondary_clicked) return secondary_clicked();
   if (event->button() != Qt::LeftButton) return;
   if (std::exchange(drag_, -1) >= 0) return;
   const QPoint at = event->position().toPoint();

@@ -30,6 +30,8 @@ class HtmlView : public QWidget {
   void SetDocument(const std::string& html);
   // A click anywhere. Links are opened as well, by a posted call.
   std::function<void()> clicked;
+  // A click with the right button.
+  std::function<void()> secondary_clicked;
   // Whether nothing of the present document is still being fetched or waits to be shown.
   bool Idle() const;
   // Of the whole document, in pixels; 0 by 0 before the first.

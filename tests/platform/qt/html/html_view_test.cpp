@@ -82,6 +82,22 @@ TEST_F(HtmlViewTest, LinkIsPostedAndClickTold) {
   EXPECT_EQ(opened_.size(), 1u);
 }
 
+TEST_F(HtmlViewTest, AClickWithTheRightButtonIsToldApart) {
+  const auto view = MakeView("<a href=x>MMMM</a>");
+  int left = 0, right = 0;
+  view->clicked = [&] { ++left; };
+  view->secondary_clicked = [&] { ++right; };
+  for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+    QMouseEvent event(type, QPointF(20, 16), QPointF(20, 16), Qt::RightButton,
+                      type == QEvent::MouseButtonPress ? Qt::RightButton : Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(view.get(), &event);
+  }
+  EXPECT_EQ(right, 1);
+  EXPECT_EQ(left, 0);
+  RunEvents();
+  EXPECT_TRUE(opened_.empty());
+}
+
 TEST_F(HtmlViewTest, LinkUnderTheMouseKeepsItsLookAndChangesTheCursor) {
   const auto view = MakeView(
       "<style>a:hover{font-weight:bold}</style><body topmargin=0 leftmargin=0><a href='x'><font "
