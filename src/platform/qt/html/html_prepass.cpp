@@ -184,6 +184,7 @@ class Tidier {
     if (quote == '"' || quote == '\'') text.remove_prefix(1);
     if ((quote == '"' || quote == '\'') && text.ends_with(quote)) text.remove_suffix(1);
     value->value = WithoutTags(text.substr(0, HtmlLimits::kScrollText));
+    attributes.erase(std::next(value), attributes.end());  // words of the text that looked like some
     at_ = close + 1;
     page_ = whole_.substr(0, at_ + HtmlLimits::kBytes);
     no_quote_from_[0] = no_quote_from_[1] = page_.npos;
