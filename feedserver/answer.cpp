@@ -7,15 +7,12 @@
 #include "feedserver/query.h"
 #include "feedserver/radar.h"
 #include "feedserver/replies.h"
-#include "feedserver/xml.h"
 
 namespace skyloft::feed {
 namespace {
 
 Reply XmlReply(std::string body) { return {.body = std::move(body)}; }
 Reply NotFound() { return {.status = 404, .type = "text/plain", .body = "not found\n"}; }
-
-std::string EmptyXml(std::string_view root) { return XmlDocument(root).Finish(); }
 
 // "/messages.xml." and a digit
 bool IsMessages(std::string_view path) {
@@ -27,6 +24,11 @@ bool IsMessages(std::string_view path) {
 Reply AnswerForecast(const Request& request, const World& world) {
   auto body = ForecastXml(Query(request.query), request.now, world.seed);
   return body ? XmlReply(*std::move(body)) : NotFound();
+}
+
+Reply AnswerBulletins(const Request& request, const World& world) {
+  const auto bulletins = world.bulletins ? world.bulletins(request.now) : std::vector<Bulletin>();
+  return XmlReply(BulletinsXml(Query(request.query), bulletins, request.now));
 }
 
 Reply AnswerUpdate(const World& world) {
@@ -51,8 +53,8 @@ Reply Answer(const Request& request, const World& world) {
   if (path == "/forecast.asp") return AnswerForecast(request, world);
   if (path == "/location_setup.asp") return XmlReply(LocationXml(Query(request.query), request.now));
   if (path == "/skyloft/config/hosts.xml") return XmlReply(HostsXml(world));
-  if (path == "/bulletins.asp") return XmlReply(EmptyXml("bulletins"));
-  if (IsMessages(path)) return XmlReply(EmptyXml("messages"));
+  if (path == "/bulletins.asp") return AnswerBulletins(request, world);
+  if (IsMessages(path)) return XmlReply(MessagesXml(request.now));
   if (path == "/skltupdate.exe") return AnswerUpdate(world);
   if (auto picture = PictureReply(path, request.now, world.seed)) return *std::move(picture);
   if (auto page = PageReply(path)) return *std::move(page);

@@ -3,11 +3,13 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "base/dates.h"
+#include "feedserver/bulletins.h"
 
 namespace skyloft::feed {
 
@@ -15,6 +17,8 @@ struct World {
   std::uint64_t seed = 1;
   std::string offered_version = "1.20.00";  // of the program, told by the configuration
   std::string update_file{};                // what is served as the update; "" when there is none
+  // What bulletins there are at a moment, some perhaps not yet or no longer in force; empty for none.
+  std::function<std::vector<Bulletin>(Date now)> bulletins{};
 };
 
 struct Request {

@@ -9,6 +9,7 @@
 #include <thread>
 
 #include "base/guard.h"
+#include "feedserver/bulletin_file.h"
 #include "feedserver/clock.h"
 #include "feedserver/options.h"
 #include "feedserver/server.h"
@@ -36,10 +37,13 @@ int Serve(const std::vector<std::string>& arguments) {
     return 0;
   }
   if (!options.update_file.empty()) options.world.update_file = ReadFile(options.update_file);
+  BulletinFile bulletins(options.bulletins_file);
+  options.world.bulletins = [&bulletins](Date now) { return bulletins.Read(now); };
   FaultBook faults;
   for (Fault& fault : options.faults) faults.Add(std::move(fault));
   RequestLog log(options.log_file);
   Clock clock(options.now);
+  bulletins.Read(clock.Now());
   Server server({options.world, [&clock] { return clock.Now(); }, faults, log}, options.port);
   std::cout << "listening " << server.Port() << std::endl;
   if (!options.stays) std::thread(HearInput, std::ref(clock)).detach();

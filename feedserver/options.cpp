@@ -24,7 +24,7 @@ struct ValueOption {
   void (*set)(Options&, const std::string& value);
 };
 
-constexpr std::array<ValueOption, 7> kValueOptions = {{
+constexpr std::array<ValueOption, 8> kValueOptions = {{
     {"--port", [](Options& o, const std::string& value) { o.port = ReadWhole(value, 65535); }},
     {"--seed",
      [](Options& o, const std::string& value) { o.world.seed = ReadWhole(value, ~std::uint64_t{0}); }},
@@ -33,6 +33,7 @@ constexpr std::array<ValueOption, 7> kValueOptions = {{
     {"--fault", [](Options& o, const std::string& value) { o.faults.push_back(ReadFault(value)); }},
     {"--offer-version", [](Options& o, const std::string& value) { o.world.offered_version = value; }},
     {"--update", [](Options& o, const std::string& value) { o.update_file = value; }},
+    {"--bulletins", [](Options& o, const std::string& value) { o.bulletins_file = value; }},
 }};
 
 const ValueOption* FindValueOption(std::string_view name) {
@@ -76,6 +77,7 @@ std::string_view HelpText() {
                      hang, drip, huge, bomb, wrong-count
   --offer-version V  the version of the program that is on offer (default 1.20.00)
   --update FILE      what is served as the update
+  --bulletins FILE   the bulletins that are in force, read again when the file changes; see docs/feed-protocol.md
   --stay             do not end when standard input ends
   --help             print this
 

@@ -13,9 +13,9 @@ namespace skyloft::feed {
 
 struct Options {
   int port = 8080;          // 0 is any free one
-  World world;              // the update file is not yet read
+  World world;              // no file of it is read yet
   std::optional<Date> now;  // the clock stands there; GMT
-  std::string log_file, update_file;
+  std::string log_file, update_file, bulletins_file;
   std::vector<Fault> faults;
   bool stays = false;  // does not end with its standard input
   bool wants_help = false;

@@ -9,6 +9,8 @@ void AppendEscaped(std::string& text, std::string_view value) {
       case '&': text += "&amp;"; break;
       case '<': text += "&lt;"; break;
       case '>': text += "&gt;"; break;
+      case '\r': text += "&#13;"; break;
+      case '\n': text += "&#10;"; break;
       default: text += c;
     }
   }

@@ -76,11 +76,6 @@ TEST(Answer, UnknownPlaceHasNoTags) {
   }
 }
 
-TEST(Answer, BulletinsAndMessagesAreEmptySets) {
-  EXPECT_TRUE(Ask("/bulletins.asp").empty());
-  for (const char* path : {"/messages.xml.0", "/messages.xml.9"}) EXPECT_TRUE(Ask(path).empty());
-}
-
 TEST(Answer, AllElseIsNotFound) {
   for (const char* path :
        {"/", "", "/forecast.asp", "/FORECAST.ASP", "/messages.xml", "/messages.xml.", "/messages.xml.x",

@@ -134,6 +134,49 @@ TEST(Server, ServesAnUpdate) {
   std::filesystem::remove(file);
 }
 
+// The n-th change of a file of bulletins, which shows in its time even if the clock of the disk is coarse.
+void WriteBulletins(const std::string& file, const std::string& text, int change) {
+  std::ofstream(file, std::ios::binary) << text;
+  std::filesystem::last_write_time(file,
+                                   std::filesystem::file_time_type(std::chrono::hours(24 * 365 * change)));
+}
+
+TEST(Server, ReadsTheBulletinsAgainWhenTheirFileChanges) {
+  const std::string file = FileOfTest(".bulletins");
+  RunningServer server({"--port", "0", "--bulletins", file});
+  const auto ask = [&] { return BodyOf(Get(server.Port(), "/bulletins.asp?pc=66044&t=xml")); };
+  const auto has = [&](const char* text) { return ask().find(text) != std::string::npos; };
+  EXPECT_FALSE(has("<Text>")) << "no file yet";
+  WriteBulletins(file, "* | TOR | -5 | +45 | one\n", 1);
+  EXPECT_TRUE(has("<Text>SIMULATED. one</Text>"));
+  WriteBulletins(file, "* | TOR | -5 | +45 | two\n", 2);
+  EXPECT_TRUE(has("<Text>SIMULATED. two</Text>")) << "of the same size, but newer";
+  WriteBulletins(file, "* | TOR | -5 | +45 | two\n* | SVR | -5 | +45 | three\n", 2);
+  EXPECT_TRUE(has("<Text>SIMULATED. three</Text>")) << "of the same time, but longer";
+  WriteBulletins(file, "* | TOR | -5 | +45 | two\nno bulletin\n", 3);
+  EXPECT_FALSE(has("<Text>")) << "one bad line makes the whole file bad";
+  WriteBulletins(file, "* | TOR | -5 | +45 | four\n", 4);
+  EXPECT_TRUE(has("<Text>SIMULATED. four</Text>"));
+  std::filesystem::remove(file);
+  EXPECT_FALSE(has("<Text>")) << "the file is gone";
+}
+
+TEST(Server, MinutesOfABulletinCountFromTheChangeOfItsFile) {
+  const std::string file = FileOfTest(".bulletins");
+  WriteBulletins(file, "* | TOR | -5 | +45 | x\n", 1);
+  const RunningServer server({"--port", "0", "--bulletins", file, "--now", "2003-03-07T20:05:00"});
+  const auto ask = [&] { return BodyOf(Get(server.Port(), "/bulletins.asp?pc=66044&t=xml")); };
+  const std::string first = ask();
+  EXPECT_NE(first.find("<ET>Mar 07 2003 08:50PM</ET>"), std::string::npos);
+  server.MoveClock("2003-03-07T20:30:00");
+  EXPECT_EQ(ask(), first);
+  server.MoveClock("2003-03-07T20:51:00");
+  EXPECT_EQ(ask().find("<ET>"), std::string::npos) << "it has expired";
+  WriteBulletins(file, "* | TOR | -5 | +45 | x\n", 2);
+  EXPECT_NE(ask().find("<ET>Mar 07 2003 09:36PM</ET>"), std::string::npos);
+  std::filesystem::remove(file);
+}
+
 TEST(Server, BurstOfConnectionsIsAnswered) {
   RunningServer server({"--port", "0"});
   std::vector<std::unique_ptr<Client>> clients(200);

@@ -18,6 +18,8 @@ constexpr struct {
     {"--root", "DIR", "keep all files and settings in DIR (environment: SKYLOFT_ROOT)"},
     {"--hosts", "HOST[:PORT]",
      "use this weather server instead of the built-in one (environment: SKYLOFT_HOSTS)"},
+    {"--bulletins", "FILE",
+     "let the built-in weather server tell the bulletins of FILE, read again when it changes"},
     {"--demo", "", "set up five towns at once"},
     {"--now", "ISO", "stop the program's clock at that local time, such as 2003-03-07T14:05:00"},
     {"--zone", "NAME", "the computer's time zone, such as America/Chicago"},
@@ -37,6 +39,7 @@ bool Take(AppOptions& options, std::string_view name, const std::string& value) 
   Date date;
   if (name == "--root") options.root = value;
   if (name == "--hosts") options.hosts = value;
+  if (name == "--bulletins") options.bulletins = value;
   if (name == "--demo") options.demo = true;
   if (name == "--now") options.now = value;
   if (name == "--zone") options.zone = value;

@@ -9,6 +9,7 @@ namespace skyloft {
 struct AppOptions {
   std::string root;       // folder that is drive C: and holds registry.ini; "" for the user's own folders
   std::string hosts;      // web host of the host table; "" starts a server of our own
+  std::string bulletins;  // file of what our own server tells; "" for none
   bool demo = false;      // five towns at once
   std::string now;        // local moment at which the clock stands; "" for the running clock
   std::string zone;       // name of the computer's time zone; "" for its own

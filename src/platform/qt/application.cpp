@@ -83,7 +83,7 @@ void SetUpServer(const AppOptions& options) {
   HostAddress.WebHost = options.hosts.empty() ? kWebHost : options.hosts;
   if (!options.hosts.empty()) SetExampleServer(options.hosts);
   if (!options.hosts.empty()) return;
-  if (const auto server = StartFeed()) SetExampleServer(*server);
+  if (const auto server = StartFeed(options.bulletins)) SetExampleServer(*server);
 }
 
 void OnTerminate(int) {

@@ -44,7 +44,7 @@ std::string ProgramFolder() {
   return error ? "." : self.parent_path().string();
 }
 
-std::optional<std::string> StartFeed() {
+std::optional<std::string> StartFeed(const std::string& bulletins) {
   int ends[2];  // ours and the feed's; no other process inherits them by chance
   if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0) return std::nullopt;
   posix_spawn_file_actions_t actions;
@@ -54,6 +54,7 @@ std::optional<std::string> StartFeed() {
   std::string program = ProgramFolder() + "/skyloft-feed";
   std::vector<std::string> words = {program, "--port", "0"};
   if (ClockStands()) words.insert(words.end(), {"--now", StandingMoment()});
+  if (!bulletins.empty()) words.insert(words.end(), {"--bulletins", bulletins});
   std::vector<char*> arguments;
   arguments.reserve(words.size() + 1);
   for (std::string& word : words) arguments.push_back(word.data());
