@@ -62,6 +62,7 @@ const BadOptions kBadOptions[] = {
     {"Unknown", {"--what"}, "--what"},
     {"Word", {"what"}, "what"},
     {"MissingValue", {"--root"}, "--root"},
+    {"MissingFile", {"--bulletins"}, "--bulletins"},
     {"EmptyValue", {"--zone="}, "--zone"},
     {"ValueOfASwitch", {"--demo=1"}, "--demo"},
     {"NowIsNoDate", {"--now", "yesterday"}, "--now"},
@@ -84,6 +85,15 @@ TEST(Snapshots, FolderThatCannotBeMadeIsAnError) {
   const Ending ending = RunInRoot(folder, {"--demo", "--snapshot", folder.Path("file/s")});
   EXPECT_EQ(ending.code, 2);
   EXPECT_NE(ending.errors.find("cannot save to"), std::string::npos) << ending.errors;
+}
+
+TEST(Bulletins, FileIsHandedToTheBuiltInServer) {
+  const Folder folder;
+  folder.Write("bulletins", "66044 | TOR\n");
+  const Ending ending =
+      RunInRoot(folder, {"--demo", "--bulletins", folder.Path("bulletins"), "--snapshot", folder.Path("s")});
+  EXPECT_EQ(ending.code, 0);
+  EXPECT_NE(ending.errors.find("bulletins: line 1 is no bulletin"), std::string::npos) << ending.errors;
 }
 
 TEST(Values, MayBeJoinedToTheirOption) {
