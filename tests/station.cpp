@@ -22,6 +22,7 @@
 #include "forms/ticker_form.h"
 #include "settings/location_profiles.h"
 #include "settings/settings.h"
+#include "setup/wizard.h"
 #include "ticker/messages.h"
 #include "ticker/ticker.h"
 #include "weather/almanac.h"
@@ -61,6 +62,7 @@ Station::Station() {
   Refresh = {};
   TickerRotation = {};
   Messages = {};
+  Wizard = {};
   HostAddress.WebHost = "www.skyloft.example";
   HostTable.forecastserver = "forecast.skyloft.example/";
   ApplySkin();

@@ -62,20 +62,13 @@ void SelectStoredLocation() {
   MainForm.LocationSelection.Select(location);
 }
 
-void ShowTicker() {
-  if (!IsAlertShowing()) TickerDisplay();
-  if (!SystemOptionsForm.ShowTicker.Checked) return;
-  TickerForm.Visible = true;
-  if (SystemOptionsForm.AlwaysOnTop.Checked) Chrome.TickerWindow.SetTopMost(true);
-}
-
 // With locations: the steps under the splash, then the ticker and the timers.
 void StartWithLocations() {
   InitializingForm.ProgressBar.Max = 13;
   InitializingForm.ProgressBar.Value = 0;
   InitializingForm.Visible = true;
   for (const StartStep& step : StartSteps()) RunStartStep(step);
-  ShowTicker();
+  ShowWantedTicker();
   MainForm.Clock.Enabled = true;
   MainForm.UpdateTimer.Enabled = true;
 }
@@ -123,6 +116,13 @@ void LeaveProgram() {
 
 void SetInstallPath() {
   Settings.InstallPath = std::string(LeftText(ApplicationPath(), 2)) + "\\program files\\skyloft";
+}
+
+void ShowWantedTicker() {
+  if (!IsAlertShowing()) TickerDisplay();
+  if (!SystemOptionsForm.ShowTicker.Checked) return;
+  TickerForm.Visible = true;
+  if (SystemOptionsForm.AlwaysOnTop.Checked) Chrome.TickerWindow.SetTopMost(true);
 }
 
 void PlaceTicker() {

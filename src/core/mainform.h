@@ -41,6 +41,10 @@ void RunStartStep(const StartStep& step);
 // The end that the desktop asks for: as the menu's exit, but without saving before the stores were read.
 void LeaveProgram();
 
+// Lets the bar show its next page unless an alert has it, and shows it where the user wants it, above all
+// other windows where the user wants that.
+void ShowWantedTicker();
+
 // Puts the ticker bar at its edge of the work area and remembers that area.
 void PlaceTicker();
 

@@ -37,6 +37,8 @@ class Button : public Control {
   void Accept(ControlVisitor& visitor) override;
   void Press();  // act
   Property<std::string> Caption{this};
+  bool Default = false;  // the form's Enter key presses it
+  bool Cancels = false;  // the form's Esc key presses it
   Event Click;
 };
 

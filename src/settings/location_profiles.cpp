@@ -195,7 +195,7 @@ void SaveLocationProfiles() {
         for (const char* name : group.names) WriteSetting(key, name, LocationProfile[row++][slot]);
       }
     }
-    SyncStore();
+    SyncSaves();
   });
 }
 

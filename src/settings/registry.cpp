@@ -23,6 +23,8 @@ constexpr struct {
     {"HKCC", 0x80000005}, {"HKDD", 0x80000006}, {"HKCR", 0x80000000},
 };
 
+int saves_together = 0;  // how many SavedTogether live
+
 // The kind of value a type letter names, as an empty value of that kind; false for an unknown letter.
 bool KindOf(const std::string& type, RegistryValue& kind) {
   const std::string letter = UpperCase(type);
@@ -127,15 +129,41 @@ void WriteSetting(const std::string& key, const std::string& name, const std::st
   RegistryPut("HKCU", key, name, "S", text);
 }
 
+void SyncSaves() {
+  if (saves_together == 0) SyncStore();
+}
+
+SavedTogether::SavedTogether() { ++saves_together; }
+
+SavedTogether::~SavedTogether() {
+  --saves_together;
+  SyncSaves();
+}
+
 void SaveSystem() {
   Guarded([] {
-    SaveSettings();
-    SaveOptions();
-    SaveLocationProfiles();
+    {
+      const SavedTogether together;
+      SaveSettings();
+      SaveOptions();
+      SaveLocationProfiles();
+    }
     SaveLocationData();
     for (int i = 0; i < kLocationSlots; ++i) ShowTitles(i);
     CheckTrayLocation();
   });
+}
+
+void ListTitles() {
+  MainForm.LocationSelection.Clear();
+  for (int i = 0; i <= LastLocation(); ++i) {
+    MainForm.LocationSelection.AddItem(LocationProfile[ProfileRow::Title][i]);
+    ShowTitles(i);
+    for (MenuItem* entry :
+         {&MenuForm.DeleteLocationTitle[i], &MenuForm.EditLocationTitle[i], &MenuForm.TrayLocationTitle[i]}) {
+      entry->Visible = true;
+    }
+  }
 }
 
 void LoadSystem() {
@@ -144,15 +172,7 @@ void LoadSystem() {
     LoadOptions();
     LoadLocationProfiles();
     LoadLocationData();
-    MainForm.LocationSelection.Clear();
-    for (int i = 0; i <= LastLocation(); ++i) {
-      MainForm.LocationSelection.AddItem(LocationProfile[ProfileRow::Title][i]);
-      ShowTitles(i);
-      for (MenuItem* entry : {&MenuForm.DeleteLocationTitle[i], &MenuForm.EditLocationTitle[i],
-                              &MenuForm.TrayLocationTitle[i]}) {
-        entry->Visible = true;
-      }
-    }
+    ListTitles();
     CheckTrayLocation();
   });
 }

@@ -31,9 +31,23 @@ int RegistryPut(const std::string& root, const std::string& key, const std::stri
 std::string ReadSetting(const std::string& key, const std::string& name, const std::string& fallback);
 void WriteSetting(const std::string& key, const std::string& name, const std::string& text);
 
+// Brings what was saved to the disk.
+void SyncSaves();
+// While one of these lives, saves reach the disk together at its end: a crash leaves all of them or none.
+class SavedTogether {
+ public:
+  SavedTogether();
+  ~SavedTogether();
+  SavedTogether(const SavedTogether&) = delete;
+  SavedTogether& operator=(const SavedTogether&) = delete;
+};
+
 // All stores: settings, options, profiles, location data; then the lists and menus that show the locations.
 // SaveSystem sets all five menu entries by their title; LoadSystem only those in use.
 void SaveSystem();
 void LoadSystem();
+
+// Makes the list and the menu entries of the locations anew from their titles; nothing is selected then.
+void ListTitles();
 
 }  // namespace skyloft

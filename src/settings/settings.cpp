@@ -116,7 +116,7 @@ void SaveSettings() {
     Save("ModelServer", Settings.ModelServer);
     Save("StartHourIndex", Settings.StartHourIndex);
     Save("StopHourIndex", Settings.StopHourIndex);
-    SyncStore();
+    SyncSaves();
   });
 }
 
@@ -160,7 +160,7 @@ void SaveOptions() {
     }
     write("AutoConnect", SystemOptionsForm.AutoConnect.Checked ? "1" : "0");
     write("LegendFlag", NumberText(Settings.LegendFlag));
-    SyncStore();
+    SyncSaves();
   });
 }
 

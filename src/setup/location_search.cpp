@@ -60,19 +60,6 @@ std::string TwoDecimals(const std::string& degrees) {
   return NumberText(RoundHalfEven(LenientNumber(degrees), 2));
 }
 
-void ShowResults(const PlaceResults& results) {
-  SetupWizardFormControls& wizard = SetupWizardForm;
-  const std::string place = results[PlaceEntry::City] + ", " + results[PlaceEntry::State];
-  wizard.ZipCodeResult.Caption = results[PlaceEntry::PostalCode];
-  wizard.CityStateResult.Caption = place;
-  wizard.TitleResult.Text = place;
-  wizard.CountyResult.Caption = results[PlaceEntry::County];
-  wizard.AreaCodeResult.Caption = results[PlaceEntry::AreaCode];
-  wizard.TimeZoneResult.Caption = results[PlaceEntry::GmtOffset];
-  wizard.LatitudeResult.Caption = TwoDecimals(results[PlaceEntry::Latitude]);
-  wizard.LongitudeResult.Caption = TwoDecimals(results[PlaceEntry::Longitude]);
-}
-
 }  // namespace
 
 int SearchLocationDatabase(PlaceResults& results) {
@@ -86,7 +73,7 @@ int SearchLocationDatabase(PlaceResults& results) {
       if (count < 0) return;
       for (int i = 1; i < PlaceResults::Size(); ++i) ReadXmlValue(reply, kTags[i], results[i], count);
       result = 1;
-      ShowResults(results);
+      ShowPlace(results);
     });
   });
   SetupWizardForm.NextButton.Enabled = true;
@@ -94,10 +81,64 @@ int SearchLocationDatabase(PlaceResults& results) {
   return result;
 }
 
+void ShowPlace(const PlaceResults& results) {
+  SetupWizardFormControls& wizard = SetupWizardForm;
+  const std::string place = results[PlaceEntry::City] + ", " + results[PlaceEntry::State];
+  wizard.ZipCodeResult.Caption = results[PlaceEntry::PostalCode];
+  wizard.CityStateResult.Caption = place;
+  wizard.TitleResult.Text = place;
+  wizard.CountyResult.Caption = results[PlaceEntry::County];
+  wizard.AreaCodeResult.Caption = results[PlaceEntry::AreaCode];
+  wizard.TimeZoneResult.Caption = results[PlaceEntry::GmtOffset];
+  wizard.LatitudeResult.Caption = TwoDecimals(results[PlaceEntry::Latitude]);
+  wizard.LongitudeResult.Caption = TwoDecimals(results[PlaceEntry::Longitude]);
+}
+
+void ClearPlaceResults() {
+  SetupWizardFormControls& wizard = SetupWizardForm;
+  for (Label* result :
+       {&wizard.ZipCodeResult, &wizard.CityStateResult, &wizard.CountyResult, &wizard.AreaCodeResult,
+        &wizard.TimeZoneResult, &wizard.LatitudeResult, &wizard.LongitudeResult}) {
+    result->Caption = "";
+  }
+}
+
 void CopyPlace(const PlaceResults& results, int slot) {
   for (const auto& [entry, row] : kProfileRowsOfPlace) LocationProfile[row][slot] = results[entry];
   LocationProfile[ProfileRow::Latitude][slot] = TwoDecimals(results[PlaceEntry::Latitude]);
   LocationProfile[ProfileRow::Longitude][slot] = TwoDecimals(results[PlaceEntry::Longitude]);
+}
+
+void ReadPlace(int slot, PlaceResults& results) {
+  for (const auto& [entry, row] : kProfileRowsOfPlace) results[entry] = LocationProfile[row][slot];
+  results[PlaceEntry::Latitude] = LocationProfile[ProfileRow::Latitude][slot];
+  results[PlaceEntry::Longitude] = LocationProfile[ProfileRow::Longitude][slot];
+}
+
+void ChooseZipCode() {
+  SetupWizardFormControls& wizard = SetupWizardForm;
+  wizard.ZipCodeOption.Checked = true;
+  wizard.CityStateOption.Checked = false;
+  wizard.ZipCodeInput.Enabled = true;
+  wizard.CityInput.Enabled = false;
+  wizard.StateInput.Enabled = false;
+  wizard.CityInput.Text = "";
+  wizard.StateInput.Select(0);
+}
+
+void ChooseCityState() {
+  SetupWizardFormControls& wizard = SetupWizardForm;
+  wizard.CityStateOption.Checked = true;
+  wizard.ZipCodeOption.Checked = false;
+  wizard.ZipCodeInput.Enabled = false;
+  wizard.CityInput.Enabled = true;
+  wizard.StateInput.Enabled = true;
+  wizard.ZipCodeInput.Text = "";
+}
+
+void ConnectPlaceOptions() {
+  SetupWizardForm.ZipCodeOption.Click = ChooseZipCode;
+  SetupWizardForm.CityStateOption.Click = ChooseCityState;
 }
 
 }  // namespace skyloft

@@ -34,7 +34,17 @@ using PlaceResults = Table<std::string, 15>;
 // place was found, otherwise 0. The wizard's NextButton is off meanwhile and on again in every case.
 int SearchLocationDatabase(PlaceResults& results);
 
-// Copies a place into the profile of a slot; coordinates at two decimals.
+// Shows a place on the wizard's page of results, and proposes it as the title.
+void ShowPlace(const PlaceResults& results);
+void ClearPlaceResults();
+
+// Copies a place into the profile of a slot; coordinates at two decimals. And back.
 void CopyPlace(const PlaceResults& results, int slot);
+void ReadPlace(int slot, PlaceResults& results);
+
+// What the two option buttons of the search page do: one input is on, the other off and empty.
+void ChooseZipCode();
+void ChooseCityState();
+void ConnectPlaceOptions();
 
 }  // namespace skyloft

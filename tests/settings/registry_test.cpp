@@ -169,10 +169,16 @@ TEST_F(Registry, OnAFirstRunTheListsStayEmpty) {
   for (int i = 0; i < 10; ++i) EXPECT_FALSE(MenuForm.TrayLocationTitle[i].Visible);
 }
 
-TEST_F(Registry, TheStoreReachesTheDiskAtTheEndOfEachSave) {
+TEST_F(Registry, TheStoreReachesTheDiskAtTheEndOfEachSaveAndOnceForThoseOfTheWholeSystem) {
   SetUpLocations(1);
+  int syncs = 0;
+  for (const auto save : {SaveSettings, SaveOptions, SaveLocationProfiles}) {
+    save();
+    EXPECT_EQ(Doubles.store_syncs, ++syncs);
+  }
   SaveSystem();
-  EXPECT_EQ(Doubles.store_syncs, 3) << "settings, options, profiles";
+  EXPECT_EQ(Doubles.store_syncs, syncs + 1)
+      << "a crash between them would store a location without a profile";
 }
 
 }  // namespace

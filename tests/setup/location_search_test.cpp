@@ -4,22 +4,12 @@
 #include "forms/main_form.h"
 #include "forms/setup_wizard_form.h"
 #include "settings/location_profiles.h"
-#include "station.h"
+#include "wizard_station.h"
 
 namespace skyloft {
 namespace {
 
-std::string PlaceReply() {
-  return Reply(Element("postal_code", "66044") + Element("city", "Lawrence") + Element("state", "KS") +
-               Element("county", "Douglas") + Element("area_code", "785") + Element("gmt_offset", "-6") +
-               Element("latitude", "38.9717") + Element("longitude", "-95.2353") +
-               Element("nws_office", "TOP") + Element("radar_station_code", "TWX") +
-               Element("radar_station_lat", "38.997") + Element("radar_station_long", "-96.232") +
-               Element("nws_radar_server", "radar.skyloft.example") + Element("state_long", "Kansas") +
-               Element("dst_ind", "1"));
-}
-
-class LocationSearch : public Station {
+class LocationSearch : public WizardStation {
  protected:
   LocationSearch() {
     SetupWizardForm.ZipCodeOption.Checked = true;
@@ -29,7 +19,7 @@ class LocationSearch : public Station {
 };
 
 TEST_F(LocationSearch, AZipCodeFillsTheTableAndTheCaptions) {
-  Doubles.Reply("location_setup.asp", PlaceReply());
+  Doubles.Reply("location_setup.asp", LawrenceReply());
   EXPECT_EQ(SearchLocationDatabase(results), 1);
   EXPECT_EQ(Doubles.requests,
             std::vector<std::string>{"forecast.skyloft.example/location_setup.asp?pc=66044&t=xml"});
@@ -61,7 +51,7 @@ TEST_F(LocationSearch, AZipCodeFillsTheTableAndTheCaptions) {
 }
 
 TEST_F(LocationSearch, CoordinatesStayWholeInTheResultsAndAreRoundedInTheProfile) {
-  Doubles.Reply("location_setup.asp", PlaceReply());
+  Doubles.Reply("location_setup.asp", LawrenceReply());
   SearchLocationDatabase(results);
   CopyPlace(results, 3);
   EXPECT_EQ(results[PlaceEntry::Latitude], "38.9717");
@@ -76,7 +66,7 @@ TEST_F(LocationSearch, CoordinatesStayWholeInTheResultsAndAreRoundedInTheProfile
 }
 
 TEST_F(LocationSearch, TwoDecimalsAreWrittenAsANumber) {
-  std::string reply = PlaceReply();
+  std::string reply = LawrenceReply();
   reply.replace(reply.find("38.9717"), 7, "38.9000");
   Doubles.Reply("location_setup.asp", reply);
   SearchLocationDatabase(results);
@@ -86,8 +76,7 @@ TEST_F(LocationSearch, TwoDecimalsAreWrittenAsANumber) {
 TEST_F(LocationSearch, ACityWithABlankGoesOutUnchanged) {
   SetupWizardForm.ZipCodeOption.Checked = false;
   SetupWizardForm.CityInput.Text = "St. Paul ";
-  SetupWizardForm.StateInput.AddItem("MN");
-  SetupWizardForm.StateInput.Select(0);
+  SelectState("MN");
   SearchLocationDatabase(results);
   EXPECT_EQ(
       Doubles.requests,
@@ -104,7 +93,7 @@ TEST_F(LocationSearch, AnEmptyZipCodeGoesOutAsSuchAndIsNotFound) {
 
 TEST_F(LocationSearch, OfTwoPlacesTheFirstIsTaken) {
   Doubles.Reply("location_setup.asp",
-                Reply(PlaceReply() + Element("postal_code", "99999") + Element("city", "Other")));
+                Reply(LawrenceReply() + Element("postal_code", "99999") + Element("city", "Other")));
   EXPECT_EQ(SearchLocationDatabase(results), 1);
   EXPECT_EQ(results[0], "66044");
   EXPECT_EQ(results[1], "Lawrence");

@@ -22,13 +22,14 @@ namespace {
 // Numbers of the program hold blue, green, red from the highest byte down.
 QColor ColorOf(int number) { return QColor(number & 255, (number >> 8) & 255, (number >> 16) & 255); }
 
-Qt::Alignment AlignmentOf(const std::string& label) {
-  if (label == "TimeValue") return Qt::AlignRight | Qt::AlignVCenter;
-  if (label == "Introduction" || label == "Heading" || label == "Message")
-    return Qt::AlignLeft | Qt::AlignTop;
-  if (label == "LocationLabel" || label == "SevereWeatherLabel" || label == "PersonalLabel")
+constexpr int kOneLine = 30;  // pixels; a higher label may have several
+
+Qt::Alignment AlignmentOf(const Label& label) {
+  const std::string& name = label.Name();
+  if (name == "TimeValue") return Qt::AlignRight | Qt::AlignVCenter;
+  if (name == "LocationLabel" || name == "SevereWeatherLabel" || name == "PersonalLabel")
     return Qt::AlignCenter;
-  return Qt::AlignLeft | Qt::AlignVCenter;
+  return Qt::AlignLeft | (label.Height > kOneLine ? Qt::AlignTop : Qt::AlignVCenter);
 }
 
 }  // namespace
@@ -42,7 +43,7 @@ class ViewMaker : public ControlVisitor {
   void Visit(Label& model) override {
     auto* label = new ClickLabel(ParentOf(model));
     label->setWordWrap(true);
-    label->setAlignment(AlignmentOf(model.Name()));
+    label->setAlignment(AlignmentOf(model));
     if (model.Name() == "EmailLink") label->setCursor(Qt::PointingHandCursor);
     if (model.Click) label->clicked = [&model] { Raise([&] { model.Press(); }); };
     Keep(model, label, [&model, label] { label->setText(ToQt(model.Caption)); });
