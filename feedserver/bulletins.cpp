@@ -17,6 +17,7 @@ namespace skyloft::feed {
 namespace {
 
 constexpr std::string_view kMark = "SIMULATED. ";
+constexpr const char* kGap = "     ";  // clients run texts together without anything between them
 
 // What stands before the next `end`, trimmed; takes it and the end away. The rest of the text when there is
 // none.
@@ -102,7 +103,7 @@ std::string BulletinsXml(const Query& query, const std::vector<Bulletin>& bullet
       xml.Add("Type", bulletin.type);
       xml.Add("IT", Stamp(bulletin.issued));
       xml.Add("ET", Stamp(bulletin.expires));
-      xml.Add("Text", bulletin.text);
+      xml.Add("Text", bulletin.text + kGap);
     }
   }
   return std::move(xml).Finish();

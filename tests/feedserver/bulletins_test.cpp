@@ -27,7 +27,7 @@ TEST(Bulletins, HaveTheFiveTags) {
                              {"Type", "TOR"},
                              {"IT", "Mar 07 2003 08:00PM"},
                              {"ET", "Mar 07 2003 08:50PM"},
-                             {"Text", "SIMULATED. TAKE SHELTER | NOW"}};
+                             {"Text", "SIMULATED. TAKE SHELTER | NOW     "}};
   EXPECT_EQ(Ask("pc=66044&t=xml", "66044 | TOR | -5 | +45 | TAKE SHELTER | NOW\n"), expected);
   EXPECT_EQ(Ask("&pc=66044&t=xml", "66044|TOR|2003-03-07T20:00:00|3/7/2003 8:50:00 PM|TAKE SHELTER | NOW"),
             expected);
@@ -40,11 +40,12 @@ TEST(Bulletins, AreNoneUnlessAskedFor) {
 }
 
 TEST(Bulletins, AllBeginWithTheWordThatTheyAreSimulated) {
-  EXPECT_EQ(Values(Ask("pc=66044",
-                       "* | TOR | -5 | +45 | x\n* | TOR | -5 | +45 | SIMULATED. y\n"
-                       "* | TOR | -5 | +45 | SIMULATED: z\n* | TOR | -5 | +45 |"),
-                   "Text"),
-            (Texts{"SIMULATED. x", "SIMULATED. y", "SIMULATED. SIMULATED: z", "SIMULATED. "}));
+  EXPECT_EQ(
+      Values(Ask("pc=66044",
+                 "* | TOR | -5 | +45 | x\n* | TOR | -5 | +45 | SIMULATED. y\n"
+                 "* | TOR | -5 | +45 | SIMULATED: z\n* | TOR | -5 | +45 |"),
+             "Text"),
+      (Texts{"SIMULATED. x     ", "SIMULATED. y     ", "SIMULATED. SIMULATED: z     ", "SIMULATED.      "}));
 }
 
 TEST(Bulletins, AreForThePlacesThatTheyName) {
@@ -63,7 +64,7 @@ TEST(Bulletins, AreForThePlacesThatTheyName) {
       {"pc=66044&pc=66044", {"one", "all", "county"}}};
   for (const auto& [query, texts] : cases) {
     Texts marked;
-    for (const auto& text : texts) marked.push_back("SIMULATED. " + text);
+    for (const auto& text : texts) marked.push_back("SIMULATED. " + text + "     ");
     EXPECT_EQ(Values(Ask(query, file), "Text"), marked) << query;
   }
   EXPECT_EQ(Values(Ask("pc=33131&pc=66044", file), "pc"),
@@ -86,9 +87,10 @@ TEST(Bulletins, TextsHoldWhatTheyLike) {
                                                        {"x \\t \\", "x \\t \\"}};
   for (const auto& [written, text] : cases)
     EXPECT_EQ(First(Ask("pc=66044", std::string("* | TOR | -5 | +45 | ") + written), "Text"),
-              std::string("SIMULATED. ") + text);
+              std::string("SIMULATED. ") + text + "     ");
   const std::string longest(100'000, 'x');
-  EXPECT_EQ(First(Ask("pc=66044", "* | TOR | -5 | +45 | " + longest), "Text"), "SIMULATED. " + longest);
+  EXPECT_EQ(First(Ask("pc=66044", "* | TOR | -5 | +45 | " + longest), "Text"),
+            "SIMULATED. " + longest + "     ");
 }
 
 TEST(Bulletins, ComeInUtf8OrWindows1252) {

@@ -148,15 +148,15 @@ TEST(Server, ReadsTheBulletinsAgainWhenTheirFileChanges) {
   const auto has = [&](const char* text) { return ask().find(text) != std::string::npos; };
   EXPECT_FALSE(has("<Text>")) << "no file yet";
   WriteBulletins(file, "* | TOR | -5 | +45 | one\n", 1);
-  EXPECT_TRUE(has("<Text>SIMULATED. one</Text>"));
+  EXPECT_TRUE(has("<Text>SIMULATED. one     </Text>"));
   WriteBulletins(file, "* | TOR | -5 | +45 | two\n", 2);
-  EXPECT_TRUE(has("<Text>SIMULATED. two</Text>")) << "of the same size, but newer";
+  EXPECT_TRUE(has("<Text>SIMULATED. two     </Text>")) << "of the same size, but newer";
   WriteBulletins(file, "* | TOR | -5 | +45 | two\n* | SVR | -5 | +45 | three\n", 2);
-  EXPECT_TRUE(has("<Text>SIMULATED. three</Text>")) << "of the same time, but longer";
+  EXPECT_TRUE(has("<Text>SIMULATED. three     </Text>")) << "of the same time, but longer";
   WriteBulletins(file, "* | TOR | -5 | +45 | two\nno bulletin\n", 3);
   EXPECT_FALSE(has("<Text>")) << "one bad line makes the whole file bad";
   WriteBulletins(file, "* | TOR | -5 | +45 | four\n", 4);
-  EXPECT_TRUE(has("<Text>SIMULATED. four</Text>"));
+  EXPECT_TRUE(has("<Text>SIMULATED. four     </Text>"));
   std::filesystem::remove(file);
   EXPECT_FALSE(has("<Text>")) << "the file is gone";
 }

@@ -68,6 +68,10 @@ void Folder::SetSetting(const QString& key, const QString& text) const {
   store.setValue(StoreName(key), text);
 }
 
+void Folder::AddSetting(const QString& key, const QString& text) const {
+  Store(*this).setValue(StoreName(key), text);
+}
+
 QByteArray ReadBytes(const QString& file) {
   QFile opened(file);
   return opened.open(QIODevice::ReadOnly) ? opened.readAll() : QByteArray();

@@ -34,7 +34,8 @@ class Folder {
   QStringList Entries(const QString& name) const;
   // A stored value by its key below the program's own, such as "Settings/Top".
   std::string Setting(const QString& key) const;
-  void SetSetting(const QString& key, const QString& text) const;
+  void SetSetting(const QString& key, const QString& text) const;  // one that the program has stored
+  void AddSetting(const QString& key, const QString& text) const;  // one that a user adds
 
  private:
   QTemporaryDir directory_;
