@@ -33,8 +33,8 @@ struct Message {
 constexpr auto kMessages = std::to_array<Message>({
     {kStation, kAlways, 120, "Simulated weather", "not for decisions"},
     {kStation, kAlways, 120, "Nothing here is real", "all weather is simulated"},
-    {kTip, kMorning, 180, "Good morning!", "The Hourly Planner tells the day, hour by hour."},
-    {kTip, kEvening, 180, "Good evening!", "The Weekly Planner has the days to come."},
+    {kTip, kMorning, 180, "The day ahead", "The Hourly Planner tells it hour by hour."},
+    {kTip, kEvening, 180, "The days to come", "The Weekly Planner has them all."},
     {kTip, kAlways, 180, "Travelling?", "Choose another of your towns under Location."},
     {kTip, kAlways, 180, "Rain on its way?", "Choose NEXRAD Radar, then press play."},
     {kTip, kAlways, 180, "Look closer", "The magnifier zooms; the frame cuts out a part."},

@@ -55,7 +55,8 @@ void FormWindow::ShowForm() {
   }
   placing_ = true;
   const bool placed = form_.Left != 0 || form_.Top != 0 || windowFlags().testFlag(Qt::FramelessWindowHint);
-  if (placed && pos() != PixelsOf(form_)) move(PixelsOf(form_));
+  // A first move counts also where it changes nothing: without one the desktop places the window.
+  if (placed && (pos() != PixelsOf(form_) || !testAttribute(Qt::WA_Moved))) move(PixelsOf(form_));
   if ((windowFlags() & ~Qt::WindowStaysOnTopHint) != FlagsOf(form_)) setWindowFlags(FlagsOf(form_));
   setVisible(form_.Visible);
   PutOnTop(form_.TopMost());

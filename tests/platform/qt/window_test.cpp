@@ -107,6 +107,17 @@ TEST_F(WindowOnADesktop, TopMostPutsItAboveTheOthersAndBack) {
   EXPECT_TRUE(WindowOf(form_).isVisible());
 }
 
+TEST_F(WindowOnADesktop, AWindowInTheScreensCornerStaysThereWhateverTheDesktopWouldLike) {
+  struct CornerForm : BareForm {
+    CornerForm() { Left = Top = 0; }
+  };
+  auto& corner = *new CornerForm();  // its window outlives the test
+  Show(corner);
+  Pass(200);
+  EXPECT_EQ(WindowOf(corner).frameGeometry().topLeft(), QPoint(0, 0));
+  corner.Visible = false;
+}
+
 TEST_F(WindowOnADesktop, OutOfTheTaskbarItIsAUtility) {
   EXPECT_FALSE(Lists("_NET_WM_WINDOW_TYPE", "_NET_WM_WINDOW_TYPE_UTILITY"));
   style_.SetShowInTaskbar(false);
