@@ -1,11 +1,13 @@
 #include "platform/files.h"
 
 #include <algorithm>
+#include <cstdio>
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QTemporaryFile>
 
 #include "base/guard.h"
 #include "platform/qt/clock_qt.h"
@@ -17,6 +19,17 @@ namespace skyloft {
 namespace {
 
 RuntimeError Failure(const char* what, const std::string& path) { return RuntimeError(what + (": " + path)); }
+
+QString NameForWriting(const std::string& path) {
+  const auto name = PathForWriting(path);
+  if (!name) throw Failure("not a path of the program", path);
+  return *name;
+}
+
+bool WriteAll(QFileDevice& file, const std::string& bytes) {
+  const auto size = static_cast<qint64>(bytes.size());
+  return file.open(QIODevice::WriteOnly) && file.write(bytes.data(), size) == size && file.flush();
+}
 
 }  // namespace
 
@@ -41,15 +54,22 @@ std::string ReadFile(const std::string& path) {
 }
 
 void WriteFile(const std::string& path, const std::string& bytes) {
-  const auto name = PathForWriting(path);
-  if (!name) throw Failure("not a path of the program", path);
-  QSaveFile file(*name);
-  const bool written =
-      file.open(QIODevice::WriteOnly) &&
-      file.write(bytes.data(), static_cast<qint64>(bytes.size())) == static_cast<qint64>(bytes.size()) &&
-      file.flush() && file.commit();  // a commit alone passes over what its own flush could not write
-  if (!written) throw Failure("cannot write", path);
-  StampFile(*name);
+  const QString name = NameForWriting(path);
+  QSaveFile file(name);
+  // A commit alone passes over what its own flush could not write.
+  if (!WriteAll(file, bytes) || !file.commit()) throw Failure("cannot write", path);
+  StampFile(name);
+}
+
+void WriteFileSoon(const std::string& path, const std::string& bytes) {
+  const QString name = NameForWriting(path);
+  QTemporaryFile file(name + ".XXXXXX");
+  if (!WriteAll(file, bytes) ||
+      std::rename(QFile::encodeName(file.fileName()), QFile::encodeName(name)) != 0) {
+    throw Failure("cannot write", path);
+  }
+  file.setAutoRemove(false);
+  StampFile(name);
 }
 
 void DeleteFile(const std::string& path) {

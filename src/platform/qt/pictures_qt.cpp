@@ -13,6 +13,8 @@
 #include "platform/files.h"
 #include "platform/pictures.h"
 #include "platform/qt/drive.h"
+#include "platform/qt/files_qt.h"
+#include "platform/qt/indexed_pictures.h"
 
 namespace skyloft {
 namespace {
@@ -73,7 +75,7 @@ QRgb RgbOf(PictureColor color) { return qRgb(color.red, color.green, color.blue)
 // The picture with a table of its colours, which replaces and writes fast; as it is when it has more than
 // 256.
 QImage WithColorTable(const QImage& image) {
-  if (image.colorCount() > 0) return image;
+  if (image.isNull() || image.colorCount() > 0) return image;
   const QImage source = image.convertToFormat(QImage::Format_ARGB32);
   QImage out(source.size(), QImage::Format_Indexed8);
   QList<QRgb> table;
@@ -115,12 +117,42 @@ void Replace(QImage& image, const ColorReplacement& replacement) {
   }
 }
 
+// The pictures that a file's bytes hold.
+QList<QImage> PicturesIn(const std::string& file, int most) {
+  QList<QImage> images;
+  QByteArray bytes = QByteArray::fromStdString(file);
+  QBuffer buffer(&bytes);
+  QImageReader reader(&buffer);
+  while (images.size() < most && IsSane(reader.size())) {
+    const QImage image = reader.read();
+    if (image.isNull()) break;
+    images << image;
+    if (!reader.jumpToNextImage()) break;
+  }
+  return images;
+}
+
+// The picture that a file's bytes hold, by a table of its colours if that can be.
+QImage IndexedPictureIn(const std::string& file) {
+  const QImage image = ReadPlainGif(file);
+  return image.isNull() ? WithColorTable(PicturesIn(file, 1).value(0)) : image;
+}
+
+std::string PngOf(const QImage& image) {
+  if (IsPlainIndexed(image)) return WriteIndexedPng(image);
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  if (!image.save(&buffer, "PNG", kFastPng)) throw RuntimeError("cannot write a PNG");
+  return bytes.toStdString();
+}
+
+}  // namespace
+
 bool IsSane(QSize size) {
   return size.isValid() && size.width() <= kLargestSide && size.height() <= kLargestSide &&
          qint64{size.width()} * size.height() <= kLargestArea;
 }
-
-}  // namespace
 
 QImage LoadedPicture(const std::string& path) {
   if (path.empty()) return {};
@@ -139,17 +171,7 @@ QImage ReadPicture(const std::string& path) {
 
 QList<QImage> ReadPictures(const std::string& path, int most) {
   QList<QImage> images;
-  Guarded([&] {
-    QByteArray bytes = QByteArray::fromStdString(ReadFile(path));
-    QBuffer buffer(&bytes);
-    QImageReader reader(&buffer);
-    while (images.size() < most && IsSane(reader.size())) {
-      const QImage image = reader.read();
-      if (image.isNull()) break;
-      images << image;
-      if (!reader.jumpToNextImage()) break;
-    }
-  });
+  Guarded([&] { images = PicturesIn(ReadFile(path), most); });
   return images;
 }
 
@@ -161,15 +183,10 @@ void LoadPicture(Picture& control, const std::string& path) {
 
 void ConvertPicture(const std::string& source, const std::string& target,
                     const std::vector<ColorReplacement>& replacements) {
-  QImage image = ReadPicture(source);
+  QImage image = IndexedPictureIn(ReadFile(source));
   if (image.isNull()) throw RuntimeError("no picture: " + source);
-  image = WithColorTable(image);
   for (const ColorReplacement& replacement : replacements) Replace(image, replacement);
-  QByteArray bytes;
-  QBuffer buffer(&bytes);
-  buffer.open(QIODevice::WriteOnly);
-  if (!image.save(&buffer, "PNG", kFastPng)) throw RuntimeError("no PNG of: " + source);
-  WriteFile(target, bytes.toStdString());
+  WriteFileSoon(target, PngOf(image));
 }
 
 }  // namespace skyloft

@@ -13,7 +13,10 @@ namespace skyloft {
 // kept.
 QImage LoadedPicture(const std::string& path);
 
-// Reads a picture file; a null image when it is missing, no picture, or larger than a screenful of screens.
+// Whether a picture of that size is read at all: it is one, and no larger than a screenful of screens.
+bool IsSane(QSize size);
+
+// Reads a picture file; a null image when it is missing, no picture, or not of a sane size.
 QImage ReadPicture(const std::string& path);
 
 // The pictures of a file that holds several, such as the sizes of an icon: as many as can be read, at most

@@ -10,6 +10,7 @@
 #include "base/guard.h"
 #include "platform/qt/clock_qt.h"
 #include "platform/qt/drive.h"
+#include "platform/qt/files_qt.h"
 
 namespace skyloft {
 namespace {
@@ -114,11 +115,18 @@ TEST_F(RealFiles, APathThatLeavesTheDriveIsRefused) {
   QFile::remove(root.path() + "/../skyloft-outside.txt");
 }
 
-TEST_F(RealFiles, AWriteThatFailsLeavesTheOldFileAndNothingBeside) {
-  WriteFile(kInstall + "\\temp\\a.txt", "old");
-  EXPECT_THROW(WriteFile(kInstall + "\\temp\\missing folder\\a.txt", "new"), RuntimeError);
-  EXPECT_EQ(ReadFile(kInstall + "\\temp\\a.txt"), "old");
-  EXPECT_EQ(QDir(Install("temp")).entryList(QDir::Files | QDir::Hidden), QStringList{"a.txt"});
+TEST_F(RealFiles, EitherWriteReplacesTheFileOrLeavesTheOldOneAndNothingBeside) {
+  for (const auto write : {WriteFile, WriteFileSoon}) {
+    write(kInstall + "\\temp\\a.txt", "old");
+    write(kInstall + "\\temp\\A.TXT", "replaced");
+    EXPECT_THROW(write(kInstall + "\\temp\\missing folder\\a.txt", "new"), RuntimeError);
+    EXPECT_THROW(write(kInstall + "\\temp\\..\\..\\..\\..\\a.txt", "new"), RuntimeError);
+    ASSERT_TRUE(QDir(Install("temp")).mkdir("folder"));
+    EXPECT_THROW(write(kInstall + "\\temp\\folder", "new"), RuntimeError);
+    ASSERT_TRUE(QDir(Install("temp")).rmdir("folder"));
+    EXPECT_EQ(ReadFile(kInstall + "\\temp\\a.txt"), "replaced");
+    EXPECT_EQ(QDir(Install("temp")).entryList(QDir::Files | QDir::Hidden), QStringList{"a.txt"});
+  }
 }
 
 TEST_F(RealFiles, AMissingFileIsARunTimeError) {
