@@ -1,7 +1,7 @@
 // A radar picture on its way to a frame, against its bare decoding.
 #include <benchmark/benchmark.h>
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QTemporaryDir>
 
 #include "bench/by_turns.h"
@@ -34,7 +34,7 @@ BENCHMARK(RadarPictureConverted)->UseManualTime()->Unit(benchmark::kMillisecond)
 
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QGuiApplication application(argc, argv);
+  const QApplication application(argc, argv);
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
   benchmark::RunSpecifiedBenchmarks();
