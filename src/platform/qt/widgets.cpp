@@ -91,7 +91,7 @@ void ZoomView::paintEvent(QPaintEvent*) {
   painter.restore();
   if (!held_at_) return;
   painter.setPen(QPen(QColor(255, 211, 92), 1, Qt::DashLine));
-  painter.drawRect(QRect(*held_at_, mouse_).normalized());
+  painter.drawRect(QRectF(*held_at_, mouse_).normalized());
 }
 
 void ZoomView::mousePressEvent(QMouseEvent* event) {

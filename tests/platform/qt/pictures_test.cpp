@@ -92,6 +92,26 @@ TEST_F(RealPictures, AControlKnowsTheSizeOfItsPicture) {
   EXPECT_EQ(MainForm.Display1.PictureHeight(), 30);
 }
 
+TEST_F(RealPictures, EveryKindOfTheCatalogueIsShownAndConverted) {
+  const QRgb red = qRgb(255, 0, 0);
+  // A GIF of one red pixel.
+  WriteFile(kTemp + "map.gif",
+            std::string("GIF89a\1\0\1\0\x80\0\0\xff\0\0\0\0\xff,\0\0\0\0\1\0\1\0\0\2\2\x44\1\0;", 35));
+  Save("map.png", red, red);
+  Save("map.jpg", red, red, "JPG");
+  for (const std::string type : {"gif", "png", "jpg"}) {
+    const std::string path = kTemp + "map." + type;
+    LoadPicture(MainForm.Display1, path);
+    EXPECT_EQ(MainForm.Display1.PicturePath(), path);
+    ConvertPicture(path, kTemp + "out.png", {});
+    for (const QImage& image : {LoadedPicture(path), QImage(Local("out.png"), "PNG")}) {
+      ASSERT_FALSE(image.isNull()) << type;
+      EXPECT_NEAR(qRed(image.pixel(0, 0)), 255, 3) << type;  // JPEG does not keep a colour exactly
+      EXPECT_LE(qGreen(image.pixel(0, 0)) + qBlue(image.pixel(0, 0)), 3) << type;
+    }
+  }
+}
+
 TEST_F(RealPictures, AFileIsDecodedOnceForEachChangeOfIt) {
   Save("map.png", qRgb(1, 2, 3), qRgb(255, 0, 0));
   SetTime("map.png", 0);
