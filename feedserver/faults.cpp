@@ -14,7 +14,7 @@ struct KindName {
   FaultKind kind;
 };
 
-constexpr std::array<KindName, 10> kKindNames = {{{"refuse", FaultKind::Refuse},
+constexpr std::array<KindName, 11> kKindNames = {{{"refuse", FaultKind::Refuse},
                                                   {"500", FaultKind::ServerError},
                                                   {"empty", FaultKind::Empty},
                                                   {"cut", FaultKind::Cut},
@@ -23,9 +23,10 @@ constexpr std::array<KindName, 10> kKindNames = {{{"refuse", FaultKind::Refuse},
                                                   {"drip", FaultKind::Drip},
                                                   {"huge", FaultKind::Huge},
                                                   {"bomb", FaultKind::Bomb},
+                                                  {"many", FaultKind::Many},
                                                   {"wrong-count", FaultKind::WrongCount}}};
 
-constexpr std::size_t kHugeSize = 64u << 20;
+constexpr std::size_t kHugeSize = 64u << 20, kManyTimes = 100;
 
 FaultKind KindOf(std::string_view name) {
   const auto* found = std::ranges::find(kKindNames, name, &KindName::name);
@@ -58,15 +59,15 @@ std::string WithWrongCounts(std::string_view body) {
   return wrong;
 }
 
-// The same elements over and over.
-std::string WithHugeSize(std::string_view body) {
+// The same elements over and over, until the text is no smaller than that.
+std::string WithSize(std::size_t size, std::string_view body) {
   std::string start, elements, end;
   for (const std::string_view line : LinesOf(body))
     (line.starts_with("</") ? end : IsElement(line) ? elements : start) += line;
   if (elements.empty()) elements = "<Desc>cloudy</Desc>\n";
   std::string huge = start;
-  huge.reserve(kHugeSize + start.size() + elements.size() + end.size());
-  while (huge.size() < kHugeSize) huge += elements;
+  huge.reserve(size + start.size() + elements.size() + end.size());
+  while (huge.size() < size) huge += elements;
   return huge += end;
 }
 
@@ -126,7 +127,8 @@ Reply Spoil(FaultKind kind, Reply reply) {
     case FaultKind::Empty: reply.body.clear(); break;
     case FaultKind::Garbage: reply.body = Garbage(); break;
     case FaultKind::Bomb: return {.type = "image/gif", .body = Bomb()};
-    case FaultKind::Huge: reply.body = WithHugeSize(reply.body); break;
+    case FaultKind::Huge: reply.body = WithSize(kHugeSize, reply.body); break;
+    case FaultKind::Many: reply.body = WithSize(kManyTimes * reply.body.size(), reply.body); break;
     case FaultKind::WrongCount: reply.body = WithWrongCounts(reply.body); break;
     default: break;
   }

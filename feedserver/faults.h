@@ -21,6 +21,7 @@ enum class FaultKind {
   Drip,         // a byte each 100 ms
   Huge,         // 64 MB of valid XML
   Bomb,         // 200 with a picture of 60000 by 60000 pixels in a few bytes
+  Many,         // more records than a client keeps: the elements a hundred times over
   WrongCount    // tags left out and doubled, so that their counts do not fit
 };
 

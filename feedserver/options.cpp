@@ -74,7 +74,7 @@ std::string_view HelpText() {
   --log FILE         append one JSON line for each request
   --fault PATH=KIND  make a fault; may be given again. PATH may end with ?PIECE, a piece of the query,
                      KIND with @N, from the N-th such request on. Kinds: refuse, 500, empty, cut, garbage,
-                     hang, drip, huge, bomb, wrong-count
+                     hang, drip, huge, many, bomb, wrong-count
   --offer-version V  the version of the program that is on offer (default 1.20.00)
   --update FILE      what is served as the update
   --bulletins FILE   the bulletins that are in force, read again when the file changes; see docs/feed-protocol.md

@@ -26,6 +26,7 @@ enum Category {
 };
 
 constexpr int kDaily = -1;  // a code that depends on the run
+constexpr int kUrl = -2;    // the code of a page
 
 struct Entry {
   std::string_view name;
@@ -37,13 +38,14 @@ struct Entry {
   std::optional<LayerId> layer;
 };
 
-constexpr auto kPages = std::to_array<Entry>({
-    {"Hourly Planner", kPlanners, '2', 0, 1, "", "gif", {}},
-    {"Weekly Planner", kPlanners, '2', 0, 1, "", "gif", {}},
+// Those that a client makes itself. A page's code leads to no picture.
+constexpr auto kOwn = std::to_array<Entry>({
+    {"Hourly Planner", kPlanners, '2', kUrl, 1, "", "htm", {}},
+    {"Weekly Planner", kPlanners, '2', kUrl, 1, "", "htm", {}},
     {"Reflectivity", kRadar, '2', 0, 1, "", "gif", {}},
     {"1-Hour Precipitation", kRadar, '2', 0, 1, "", "gif", {}},
     {"Total Precipitation", kRadar, '2', 0, 1, "", "gif", {}},
-    {"Historical Conditions", kHistorical, '2', 0, 1, "", "gif", {}},
+    {"Historical Conditions", kHistorical, '2', kUrl, 1, "", "htm", {}},
 });
 constexpr auto kMaps = std::to_array<Entry>({
     {"Surface Temperature", kForecastMaps, '1', 3, 66, "sfctemp", "gif", LayerId::Temperature},
@@ -63,7 +65,6 @@ constexpr auto kMaps = std::to_array<Entry>({
     {"Radar Mosaic", kObserved, '4', 10, 1, "mosaic", "png", LayerId::Radar},
     {"RouteScope by Road", kTravel, '3', 11, 10, "route", "gif", LayerId::Roads},
 });
-constexpr int kUrl = -2;
 constexpr auto kAddresses = std::to_array<Entry>({
     {"Questions and Answers", kSupport, '2', kUrl, 1, "http://www.skyloft.example/support/", "htm", {}},
     {"This Month", kNewsletter, '2', kUrl, 1, "http://www.skyloft.example/newsletter/", "htm", {}},
@@ -138,7 +139,7 @@ const std::vector<std::string_view>& Categories() {
 
 std::vector<Product> ProductsOf(std::string_view run_hour) {
   std::vector<Product> products;
-  for (const std::span<const Entry> entries : {std::span<const Entry>(kPages), {kMaps}, {kAddresses}}) {
+  for (const std::span<const Entry> entries : {std::span<const Entry>(kOwn), {kMaps}, {kAddresses}}) {
     std::ranges::transform(entries, std::back_inserter(products),
                            [&](const Entry& entry) { return ProductOf(entry, run_hour); });
   }

@@ -93,11 +93,22 @@ TEST(Catalogue, EveryCodeAndEveryFormatHasAProductInEveryRun) {
   }
 }
 
+TEST(Catalogue, APageThatAClientMakesItselfLeadsToNoPicture) {
+  int pages = 0;
+  for (const Row& row : RowsOf(Products("12"))) {
+    if (row.category != 0 && row.category != 3) continue;
+    ++pages;
+    EXPECT_EQ(row.code, "url") << row.product;
+    EXPECT_EQ(row.file, "") << row.product;
+  }
+  EXPECT_EQ(pages, 3);
+}
+
 TEST(Catalogue, SupportNewsletterAndSharingArePagesOfOurHosts) {
   std::map<int, int> pages;
   for (const Row& row : RowsOf(Products("06"))) {
-    EXPECT_EQ(row.code == "url", row.category >= 6) << row.product;
-    if (row.code != "url") continue;
+    if (row.category < 6) continue;
+    EXPECT_EQ(row.code, "url") << row.product;
     ++pages[row.category];
     constexpr std::string_view start = "http://www.skyloft.example";
     ASSERT_TRUE(row.file.starts_with(start)) << row.file;

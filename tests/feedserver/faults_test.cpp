@@ -66,6 +66,17 @@ TEST(Faults, HugeIsWellFormed) {
   EXPECT_STREQ(document.document_element().name(), "a");
 }
 
+TEST(Faults, ManyAreTheSameElementsAHundredTimesOver) {
+  const Reply reply = Sample();
+  const std::size_t elements = Values(Scan(reply.body), "b").size();
+  const Reply many = Spoil(FaultKind::Many, reply);
+  pugi::xml_document document;
+  EXPECT_TRUE(document.load_buffer(many.body.data(), many.body.size()));
+  EXPECT_GE(Values(Scan(many.body), "b").size(), 100 * elements);
+  EXPECT_LT(many.body.size(), 200 * reply.body.size());
+  EXPECT_EQ(ReadFault("/products.12z.sys.4=many").kind, FaultKind::Many);
+}
+
 TEST(Faults, BombIsASmallPictureOfHugeSize) {
   const Reply bomb = Spoil(FaultKind::Bomb, Sample());
   EXPECT_EQ(bomb.status, 200);

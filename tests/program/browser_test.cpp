@@ -1,7 +1,6 @@
 // The product browser of the whole program, against the feed's pictures.
 #include <gtest/gtest.h>
 
-#include <QDir>
 #include <QJsonArray>
 #include <QSet>
 
@@ -70,42 +69,6 @@ INSTANTIATE_TEST_SUITE_P(Categories, EveryProduct, testing::ValuesIn(kCategories
   std::erase(name, ' ');
   return name;
 });
-
-// The observed map is fetched at every choice; the first one comes through.
-class PictureFault : public testing::TestWithParam<const char*> {};
-
-TEST_P(PictureFault, LeavesTheFormerPictureOnShow) {
-  const Folder folder;
-  SetUpTowns(folder);
-  const RunningServer well({"--port", "0"});
-  ASSERT_EQ(Browse(folder, well, Choose("Observed Maps", 0)).code, 0);
-  const Snapshot first(folder.Path("s"));
-  const QString name = QString::fromStdString(first.Text("MainForm.Display1", "image")).section('\\', -1);
-  const std::string path = "/" + name.toStdString();
-  QDir(folder.Root() + "/program files/skyloft/temp").remove(name);
-
-  const RunningServer faulty({"--port", "0", "--fault", path + "=" + GetParam() + "@2"});
-  const Ending ending =
-      Browse(folder, faulty, Choose("Observed Maps", 0) + "select MainForm.ProductSelection 0\n");
-  EXPECT_EQ(ending.code, 0) << ending.errors;
-  const Snapshot shown(folder.Path("s"));
-  EXPECT_EQ(shown.Text("MainForm.Display1", "image"), first.Text("MainForm.Display1", "image"));
-  EXPECT_GT(ColoursShown(shown), 2) << "the picture of the first choice";
-}
-
-TEST_P(PictureFault, OfTheRadarLeavesAWindowThatWorks) {
-  const Folder folder;
-  SetUpTowns(folder);
-  const RunningServer faulty(
-      {"--port", "0", "--fault", std::string("/radar/images/DS.p19r0/SI.ktwx/latest.gif=") + GetParam()});
-  const Ending ending = Browse(folder, faulty, Choose("NEXRAD Radar", 0) + Choose("Planners", 0));
-  EXPECT_EQ(ending.code, 0) << ending.errors;
-  EXPECT_EQ(Snapshot(folder.Path("s")).Text("MainForm.ProductTitle", "caption").find("Hourly Planner"), 0u);
-}
-
-INSTANTIATE_TEST_SUITE_P(Kinds, PictureFault,
-                         testing::Values("500", "empty", "cut", "garbage", "refuse", "huge", "bomb"),
-                         [](const auto& test) { return "Of" + std::string(test.param); });
 
 // A map goes on from one act to the next: views, zoom, the legend, another town.
 TEST(MapOnShow, FollowsEveryButtonAndAChangeOfTheTown) {
