@@ -332,6 +332,53 @@ TEST_F(CatalogueProduct, ALegendThatIsNoPictureLeavesTheTitle) {
   EXPECT_EQ(MainForm.ProductTitle.Caption.Get(), "Wind Friday, Mar 07");
 }
 
+TEST_F(CatalogueProduct, WhereNoSectorHoldsTheTownThePictureIsThatOfTheFormerSector) {
+  Catalogues.SectorID = "304";
+  Catalogues.ModelRun = "12z";
+  Choose("4", "2");
+  ASSERT_FALSE(Doubles.requests.empty());
+  EXPECT_EQ(Doubles.requests[0], "image.skyloft.example/wind.304.12z.012.gif");
+}
+
+TEST_F(CatalogueProduct, AnHourlyPictureWithoutARunHasButtonsThatDoNothing) {
+  Choose("2", "10");
+  ASSERT_EQ(Times().size(), 2u);
+  EXPECT_EQ(Periods.HourIndexMax, 0);
+  EXPECT_TRUE(MainForm.BackButton.Enabled && MainForm.NextButton.Enabled && MainForm.PlayButton.Enabled);
+  MainForm.NextButton.Press();
+  EXPECT_EQ(MainForm.TimeSelection.ListIndex(), 0);
+  MainForm.PlayButton.Press();
+  EXPECT_FALSE(MainForm.ImageForwardTimer.Enabled);
+  EXPECT_TRUE(MainForm.PlayButton.Enabled);
+}
+
+TEST_F(CatalogueProduct, ASeriesPlayedOncePlaysAgainWithoutARequest) {
+  Catalogues.ModelRun = "12z";
+  Choose("4", "5");
+  Doubles.requests.clear();
+  MainForm.PlayButton.Press();
+  for (const size_t requests : {4u, 0u}) {  // the first picture came with the product
+    for (int i = 0; i < 5; ++i) MainForm.ImageForwardTimer.Elapse();
+    EXPECT_EQ(Doubles.requests.size(), requests);
+    EXPECT_EQ(MainForm.TimeSelection.ListIndex(), 0);
+    Doubles.requests.clear();
+  }
+}
+
+TEST_F(CatalogueProduct, AProductChosenWhileAnotherPlaysPlaysOn) {
+  Choose("4", "4");
+  MainForm.PlayButton.Press();
+  ASSERT_EQ(MainForm.ImageForwardTimer.Interval, 2500);
+  Choose("5", "2", "Highs", "highs");  // as a choice of a category does
+  EXPECT_TRUE(MainForm.ImageForwardTimer.Enabled);
+  EXPECT_EQ(MainForm.ImageForwardTimer.Interval, 2500) << "as it was";
+  for (const int index : {1, 0, 1}) {
+    MainForm.ImageForwardTimer.Elapse();
+    EXPECT_EQ(MainForm.TimeSelection.ListIndex(), index);
+    EXPECT_EQ(MainForm.ProductTitle.Caption.Get(), "Highs " + Times()[static_cast<size_t>(index)]);
+  }
+}
+
 TEST_F(CatalogueProduct, AnotherTownShowsTheSameMapInItsView) {
   SetUpLocations(2);
   Choose("4", "3");

@@ -111,6 +111,8 @@ TEST_F(Player, StopGivesTheListsBack) {
   EXPECT_EQ(MainForm.ProgressBar.Color, 0xff0000);
   EXPECT_TRUE(MainForm.PlayButton.Enabled && MainForm.BackButton.Enabled && MainForm.NextButton.Enabled);
   EXPECT_FALSE(MainForm.StopButton.Enabled);
+  EXPECT_EQ(Picture(MainForm.PlayButton) + Picture(MainForm.StopButton), "play.gifstopd.gif");
+  EXPECT_EQ(Picture(MainForm.BackButton) + Picture(MainForm.NextButton), "back.gifnext.gif");
   EXPECT_TRUE(MainForm.LocationSelection.Enabled && MainForm.ProductSelection.Enabled &&
               MainForm.TimeSelection.Enabled);
 }

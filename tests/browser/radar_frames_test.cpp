@@ -114,6 +114,45 @@ TEST_F(RadarFrames, TheButtonsAreThoseOfARadarPicture) {
                MainForm.LegendButton.Enabled);
 }
 
+TEST_F(RadarFrames, AnEntryHasTheLettersOfItsZoneAndNamesItsFileInEveryOne) {
+  const struct {
+    const char *zone, *dst, *entry;
+  } cases[] = {
+      {"-5", "0", "02:50 PM EST 03/07/03"}, {"-5", "1", "03:50 PM EDT 03/07/03"},
+      {"-6", "0", "01:50 PM CST 03/07/03"}, {"-7", "0", "12:50 PM MST 03/07/03"},
+      {"-7", "1", "01:50 PM MDT 03/07/03"}, {"-8", "0", "11:50 AM PST 03/07/03"},
+      {"-8", "1", "12:50 PM PDT 03/07/03"},
+  };
+  Browser.SelectedProduct = "Reflectivity";
+  PutFrame("030720031950");
+  for (const auto& c : cases) {
+    LocationProfile[ProfileRow::TimeZone][0] = c.zone;
+    LocationProfile[ProfileRow::Dst][0] = c.dst;
+    MainForm.Display1.SetPicture("former", 1, 1);
+    EXPECT_EQ(Load(), Names{c.entry});
+    EXPECT_EQ(MainForm.Display1.PicturePath(), kTemp + "nexr.ktw0.030720031950.png") << c.entry;
+  }
+}
+
+TEST_F(RadarFrames, ALatestPictureThatFailsHalfWayLeavesTheFormerOnesFileOnShow) {
+  const std::string gif = "c:\\program files\\skyloft\\temp\\latest.gif";
+  const std::string png = "c:\\program files\\skyloft\\temp\\latest.png";
+  Doubles.Reply("/latest.gif", "a picture");
+  Doubles.files[png] = "former";
+  // What fails: the conversion, and the writing of its picture.
+  for (const bool is_conversion : {true, false}) {
+    Doubles.files.erase(gif);
+    MainForm.Display1.SetPicture("other", 1, 1);
+    (is_conversion ? Doubles.picture_failure.at : Doubles.file_failure.at) = is_conversion ? 1 : 3;
+    GetLatestImage("radar.skyloft.example/latest.gif");
+    Doubles.picture_failure = Doubles.file_failure = {};
+    EXPECT_TRUE(Doubles.files.contains(gif)) << "what has come stays";
+    EXPECT_EQ(Doubles.files[png], "former");
+    EXPECT_EQ(MainForm.TimeSelection.Items(), Names{"Latest"});
+    EXPECT_EQ(MainForm.Display1.PicturePath(), kTemp + "latest.png");
+  }
+}
+
 TEST_F(RadarFrames, TheLatestPictureIsFetchedConvertedAndTheOnlyEntry) {
   Doubles.Reply("/latest.gif", "a picture");
   MainForm.TimeSelection.AddItem("former");

@@ -1,5 +1,7 @@
 #include "browser/zoom.h"
 
+#include <sstream>
+
 #include "browser/selection.h"
 #include "core/mainform.h"
 #include "feed/catalogues.h"
@@ -161,6 +163,33 @@ TEST_F(ZoomTest, TheViewButtonsChangeTheSectorAndShowItsPicture) {
   EXPECT_EQ(Start.LocalView, "True");
   EXPECT_EQ(Catalogues.SectorXMax, 9000000) << "of two with one centre the first: it is of the family too";
   EXPECT_EQ(MainForm.ProductTitle.Caption.Get(), "Wind ");
+}
+
+TEST_F(ZoomTest, EveryButtonOfTheMapGivesTheOthersTheirPictures) {
+  const std::pair<ImageButton*, std::string> buttons[] = {
+      {&MainForm.AreaZoomButton, "local.gif? national.gif? zmaread.gif zoomind.gif zoomoutd.gif reset.gif"},
+      {&MainForm.ResetButton, "local.gif? national.gif? zmarea.gif zoomin.gif zoomoutd.gif resetd.gif"},
+      {&MainForm.ZoomInButton, "local.gif? national.gif? zmarea.gif zoomin.gif? zoomout.gif reset.gif"},
+      {&MainForm.LocalButton, "locald.gif national.gif zmarea.gif zoomin.gif zoomoutd.gif reset.gif?"},
+      {&MainForm.NationalButton, "local.gif nationald.gif zmaread.gif zoomind.gif zoomoutd.gif resetd.gif"},
+  };
+  ImageButton* const shown[] = {&MainForm.LocalButton,  &MainForm.NationalButton, &MainForm.AreaZoomButton,
+                                &MainForm.ZoomInButton, &MainForm.ZoomOutButton,  &MainForm.ResetButton};
+  for (const auto& [button, pictures] : buttons) {
+    for (ImageButton* each : shown) {
+      each->Enabled = true;
+      each->SetPicture("\\untouched", 1, 1);
+    }
+    button->Press();
+    std::istringstream wanted(pictures);
+    for (const ImageButton* each : shown) {
+      std::string picture;
+      wanted >> picture;
+      const bool is_untouched = picture.ends_with('?');
+      EXPECT_EQ(Picture(*each), is_untouched ? "untouched" : picture)
+          << button->Name() << " " << each->Name();
+    }
+  }
 }
 
 TEST_F(ZoomTest, PointsLieWhereTheLocationsAreOnTheMap) {

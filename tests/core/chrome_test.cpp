@@ -92,6 +92,14 @@ TEST_F(ChromeTest, HelpChoosesTheSupportCategoryAndShowsTheWindow) {
   EXPECT_TRUE(MainForm.Visible);
 }
 
+TEST_F(ChromeTest, HelpWithoutASupportCategoryChoosesTheFirst) {
+  MainForm.CategorySelection.AddItem("Planners");
+  MainForm.CategorySelection.AddItem("Forecast Maps");
+  MainForm.HelpButton.Press();
+  EXPECT_EQ(MainForm.CategorySelection.Text(), "Planners");
+  EXPECT_TRUE(MainForm.Visible);
+}
+
 TEST_F(ChromeTest, LosingTheFocusClearsTopMost) {
   Chrome.MainWindow.SetClient(&MainForm);
   Chrome.MainWindow.SetTopMost(true);

@@ -104,6 +104,14 @@ TEST_F(Radar, TwoLocationsWithOneSiteBothFetch) {
   EXPECT_EQ(Files(), Names{"nexr.ktw0.030720032005.png"});
 }
 
+TEST_F(Radar, AnOldFrameOfASiteOfTwoLocationsEndsItForItCannotBeDeletedTwice) {
+  Doubles.Reply("/radar/", "a picture");
+  LocationProfile[ProfileRow::NEXRADLocation][1] = "KTW0";
+  PutFrame(0, 181);
+  EXPECT_EQ(Fetched(0), Names{Url(0)}) << "the second location is not reached";
+  EXPECT_EQ(Files(), Names{"nexr.ktw0.030720032005.png"});
+}
+
 TEST_F(Radar, TheSecondOfTwoFramesOfOneMinuteReplacesTheFirst) {
   LocationProfile[ProfileRow::NEXRADLocation][1] = "ktw0";
   LocationProfile[ProfileRow::NEXRADServer][1] = "other.skyloft.example";
