@@ -39,8 +39,7 @@ void ShowWebPage(const std::string& address) {
   MainForm.TimeSelection.AddItem("");
   MainForm.TimeSelection.Select(0);
   MainForm.Display2.Navigate(address);
-  MainForm.Display2.Visible = true;
-  MainForm.Display1.Visible = false;
+  ShowPage();
   BackNextPlayStopState();
   TurnMapButtonsOff();
   MainForm.Legend.Visible = false;
@@ -109,8 +108,7 @@ void ShowCatalogueProduct() {
   if (!may_be_empty || MainForm.TimeSelection.Count() > 0) MainForm.TimeSelection.Select(0);
   MainForm.Display1.ViewX = 0;
   MainForm.Display1.ViewY = 0;
-  MainForm.Display2.Visible = false;
-  MainForm.Display1.Visible = true;
+  ShowPicture();
   ShowEntryTitle();
   ShowMapButtons();
   ShowLegend(products.file[product]);

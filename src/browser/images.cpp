@@ -79,7 +79,7 @@ void ImageFetch() {
       const std::string name =
           FrameName(products.file[product], Catalogues.SectorID, *frame, products.type[product]);
       FrameUrl[k] = HostTable.imageserver + name;
-      FramePath[k] = Settings.InstallPath + "\\temp\\" + name;
+      FramePath[k] = TempFolder() + "\\" + name;
       // The counter of the forecast's refresh is the same variable as the name's hour, which is meant.
       if (frame->run) Refresh.ForecastTimer = HourText(frame->hour);
     }
@@ -99,12 +99,9 @@ void ImageFetch() {
 
 void ThumbnailDisplay(const std::string& prefix, const std::string& site) {
   Guarded([&] {
-    FileList& list = MainForm.FileList;
-    list.Path = Settings.InstallPath + "\\temp";
-    list.Files = ListFiles(list.Path);
     std::string newest;
-    for (const std::string& file : list.Files) {
-      if (IsFrameOf(file, prefix, site)) newest = list.Path + "\\" + file;
+    for (const std::string& file : ListTempFolder().Files) {
+      if (IsFrameOf(file, prefix, site)) newest = TempFolder() + "\\" + file;
     }
     if (!newest.empty()) LoadPicture(MainForm.Thumbnail, newest);
   });

@@ -27,12 +27,11 @@ bool TellsForecasts() {
 // The place under a pixel of the view. The two directions are meant to differ in their sign of the origin.
 GeoPoint PlaceAt(int x, int y) {
   const CatalogueState& map = Catalogues;
-  const double metres_x = Divide(map.SectorXMax - map.SectorXMin, LenientNumber(map.ImageWidth));
-  const double metres_y = Divide(map.SectorYMax - map.SectorYMin, LenientNumber(map.ImageHeight));
+  const MapScale metres = ScaleOfSector();
   const int pixel_x = x - MainForm.Display1.ViewX;
   const int pixel_y = y + MainForm.Display1.ViewY;
-  return MapToLocation(RoundHalfEven(map.SectorXMin + metres_x * pixel_x, 0),
-                       RoundHalfEven(map.SectorYMax - metres_y * pixel_y, 0));
+  return MapToLocation(RoundHalfEven(map.SectorXMin + metres.x * pixel_x, 0),
+                       RoundHalfEven(map.SectorYMax - metres.y * pixel_y, 0));
 }
 
 void TellForecastAt(const MousePress& press) {

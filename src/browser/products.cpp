@@ -21,16 +21,6 @@
 namespace skyloft {
 namespace {
 
-void ShowPage() {
-  MainForm.Display2.Visible = true;
-  MainForm.Display1.Visible = false;
-}
-
-void ShowPicture() {
-  MainForm.Display2.Visible = false;
-  MainForm.Display1.Visible = true;
-}
-
 // The range of what TimeSelection holds.
 void SetRangeOfTimes() {
   Browser.HourIndexMin = 0;

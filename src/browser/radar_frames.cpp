@@ -15,27 +15,19 @@
 #include "weather/time.h"
 
 namespace skyloft {
-namespace {
-
-std::string TempFolder() { return Settings.InstallPath + "\\temp"; }
-
-}  // namespace
 
 void NexradLoad(const std::string& prefix, const std::string& site) {
   Guarded([&] {
     const Date now = PresentGMT();
     const std::string zone = LocationZone(SelectedLocation());
     const long long offset = LocationOffset(SelectedLocation());
-    FileList& list = MainForm.FileList;
-    list.Path = TempFolder();
-    list.Files = ListFiles(list.Path);
     ListControl& times = MainForm.TimeSelection;
     times.Clear();
-    for (const std::string& file : list.Files) {
+    for (const std::string& file : ListTempFolder().Files) {
       if (!IsFrameOf(file, prefix, site)) continue;
       const Date time = FrameTime(file);
       if (DateDiff(DateUnit::Minutes, time, now) > kOldestFrameMinutes) {
-        DeleteFile(list.Path + "\\" + file);
+        DeleteFile(TempFolder() + "\\" + file);
         continue;
       }
       const Date local = DateAdd(DateUnit::Hours, offset, time);

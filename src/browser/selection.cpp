@@ -70,6 +70,16 @@ void SelectProduct() {
 
 void SelectTime() { Guarded(ShowProductTime); }
 
+void ShowPage() {
+  MainForm.Display2.Visible = true;
+  MainForm.Display1.Visible = false;
+}
+
+void ShowPicture() {
+  MainForm.Display2.Visible = false;
+  MainForm.Display1.Visible = true;
+}
+
 void ShowEntryTitle() {
   MainForm.ProductTitle.Caption = Browser.SelectedProduct + " " + MainForm.TimeSelection.Text();
 }

@@ -24,6 +24,10 @@ void SelectProduct();
 // Shows the product at the time of TimeSelection's index.
 void SelectTime();
 
+// Show the page and hide the picture, or the other way round.
+void ShowPage();
+void ShowPicture();
+
 // ProductTitle tells the product and the selected time.
 void ShowEntryTitle();
 

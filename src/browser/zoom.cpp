@@ -130,23 +130,21 @@ void ImageZoom() {
     const ImageView& view = MainForm.Display1;
     const CatalogueState& map = Catalogues;
     const MapPoint point = LocationOnMap(SelectedLocation());
-    const double metres_x = Divide(map.SectorXMax - map.SectorXMin, view.PictureWidth());
-    const double metres_y = Divide(map.SectorYMax - map.SectorYMin, view.PictureHeight());
-    CentreView(Divide((map.SectorXMin + map.SectorXMax) / 2 - point.x, metres_x),
-               Divide((map.SectorYMin + map.SectorYMax) / 2 - point.y, metres_y));
+    const MapScale metres = ScaleOfSector(view.PictureWidth(), view.PictureHeight());
+    CentreView(Divide((map.SectorXMin + map.SectorXMax) / 2 - point.x, metres.x),
+               Divide((map.SectorYMin + map.SectorYMax) / 2 - point.y, metres.y));
   });
 }
 
 void PlaceLocationPoints() {
   const CatalogueState& map = Catalogues;
-  const double metres_x = Divide(map.SectorXMax - map.SectorXMin, LenientNumber(map.ImageWidth));
-  const double metres_y = Divide(map.SectorYMax - map.SectorYMin, LenientNumber(map.ImageHeight));
+  const MapScale metres = ScaleOfSector();
   for (int slot = 0; slot <= LastLocation(); ++slot) {
     Mark& mark = MainForm.ImagePoints[slot];
     const MapPoint point = LocationOnMap(slot);
     mark.Color = 0xffffff;
-    mark.Left = WholePixels(Divide(point.x - map.SectorXMin, metres_x) - kPointRadius);
-    mark.Top = WholePixels(Divide(map.SectorYMax - point.y, metres_y) - kPointRadius);
+    mark.Left = WholePixels(Divide(point.x - map.SectorXMin, metres.x) - kPointRadius);
+    mark.Top = WholePixels(Divide(map.SectorYMax - point.y, metres.y) - kPointRadius);
     mark.Visible = true;
   }
 }

@@ -91,6 +91,15 @@ int NearestSector(std::string_view family, double x, double y) {
 
 }  // namespace
 
+MapScale ScaleOfSector(double width, double height) {
+  const CatalogueState& map = Catalogues;
+  return {Divide(map.SectorXMax - map.SectorXMin, width), Divide(map.SectorYMax - map.SectorYMin, height)};
+}
+
+MapScale ScaleOfSector() {
+  return ScaleOfSector(LenientNumber(Catalogues.ImageWidth), LenientNumber(Catalogues.ImageHeight));
+}
+
 void GetSectorData() {
   Guarded([] {
     GetData(HostTable.productserver + "sectors." + RunHour() + "z.sys", Catalogues.SectorCatalogue);

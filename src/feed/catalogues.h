@@ -51,6 +51,15 @@ struct CatalogueState {
 };
 extern CatalogueState Catalogues;
 
+// Metres a pixel.
+struct MapScale {
+  double x, y;
+};
+// The scale of a picture of the sector, by its size in pixels. Raises for a size of 0.
+MapScale ScaleOfSector(double width, double height);
+// That of the catalogue's pictures.
+MapScale ScaleOfSector();
+
 // Fetch the catalogue of the model run. A failed fetch leaves the former one; a text that is not XML has no
 // records.
 void GetSectorData();

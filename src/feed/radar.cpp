@@ -27,7 +27,7 @@ bool NeedsFrame(const std::vector<std::string>& files, const std::string& site, 
     if (!IsFrameOf(file, "nexr", site)) continue;
     const std::int64_t age = DateDiff(DateUnit::Minutes, FrameTime(file), now);
     if (age > kOldestFrameMinutes) {
-      DeleteFile(MainForm.FileList.Path + "\\" + file);
+      DeleteFile(TempFolder() + "\\" + file);
     } else if (static_cast<double>(age) < fresh_minutes) {
       needed = false;
     }
@@ -41,18 +41,15 @@ void GetNexradData(int mode) {
   Guarded([&] {
     if (mode != 0 && mode != 1) return;
     const Date now = PresentGMT();
-    FileList& list = MainForm.FileList;
-    list.Path = Settings.InstallPath + "\\temp";
-    list.Files = ListFiles(list.Path);
     // All locations see the files of now; what one of them fetches is not looked at again.
-    const std::vector<std::string> files = list.Files;
+    const std::vector<std::string> files = ListTempFolder().Files;
     const int first = mode == 1 ? SelectedLocation() : 0;
     const int last = mode == 1 ? first : LastLocation();
     const double fresh = mode == 1 ? kFreshMinutes : LenientNumber(SystemOptionsForm.NexradIndexMax.Text());
     for (int slot = first; slot <= last; ++slot) {
       const std::string site = RadarSite(slot);
       if (!NeedsFrame(files, site, now, fresh)) continue;
-      std::string path = list.Path + "\\nexr." + site + "." + Format(now, "mmddyyyyhhnn") + ".gif";
+      std::string path = TempFolder() + "\\nexr." + site + "." + Format(now, "mmddyyyyhhnn") + ".gif";
       (mode == 0 ? GetRadar : GetImage)(RadarUrl("DS.p19r0", slot), path);
       ConvertRadarImage(path);
     }
@@ -74,6 +71,15 @@ std::string RadarUrl(const std::string& product, int slot) {
 }
 
 std::string RadarSite(int slot) { return LowerCase(LocationProfile[ProfileRow::NEXRADLocation][slot]); }
+
+std::string TempFolder() { return Settings.InstallPath + "\\temp"; }
+
+const FileList& ListTempFolder() {
+  FileList& list = MainForm.FileList;
+  list.Path = TempFolder();
+  list.Files = ListFiles(list.Path);
+  return list;
+}
 
 bool IsFrameOf(const std::string& file, const std::string& prefix, const std::string& site) {
   return LeftText(file, 9) == prefix + "." + site;

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "base/dates.h"
+#include "platform/unseen_controls.h"
 
 namespace skyloft {
 
@@ -24,6 +25,11 @@ void ConvertRadarImage(std::string& path);
 std::string RadarUrl(const std::string& product, int slot);
 // The site of a location, in lower case.
 std::string RadarSite(int slot);
+
+// The folder of the downloads.
+std::string TempFolder();
+// FileList, pointed at that folder as it is now.
+const FileList& ListTempFolder();
 
 // Whether a file is a frame of "PREFIX.SITE".
 bool IsFrameOf(const std::string& file, const std::string& prefix, const std::string& site);

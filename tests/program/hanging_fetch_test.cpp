@@ -4,32 +4,20 @@
 #include <QElapsedTimer>
 
 #include <algorithm>
-#include <memory>
 
-#include "feedserver/running_server.h"
-#include "program/program.h"
-#include "program/watched_window.h"
+#include "program/program_on_a_display.h"
 
 namespace skyloft::program {
 namespace {
 
 constexpr QPoint kExitButton(733, 23);  // its middle, in the window
 
-class WindowDuringAHangingFetch : public testing::Test {
+class WindowDuringAHangingFetch : public ProgramOnADisplay {
  protected:
   void SetUp() override {
-    SetUpTowns(folder_);
-    display_ = std::make_unique<XDisplay>();
-    ASSERT_TRUE(display_->Up()) << "Xvfb must be installed";
-    server_ = std::make_unique<feed::RunningServer>(std::vector<std::string>{
-        "--port", "0", "--log", folder_.Path("log").toStdString(), "--fault", "/forecast.asp?d=meta=hang@2"});
     // The refresh asks for the stamps a second time after 15 minutes.
-    folder_.Write("script", "async tick MainForm.UpdateTimer 30\n");
-    run_ = std::make_unique<ProgramRun>(
-        folder_,
-        InRoot(folder_, {"--hosts", "127.0.0.1:" + QString::number(server_->Port()), "--script",
-                         folder_.Path("script")}),
-        QStringList{"QT_QPA_PLATFORM=xcb", "DISPLAY=" + display_->Name()});
+    ASSERT_NO_FATAL_FAILURE(
+        StartAgainst("/forecast.asp?d=meta=hang@2", "async tick MainForm.UpdateTimer 30\n"));
     ASSERT_TRUE(Await(30000, [&] {
       return Only(ReadLog(folder_.Path("log")), "/forecast.asp", "d=meta").size() == 2;
     })) << "the fetch that hangs";
@@ -38,7 +26,7 @@ class WindowDuringAHangingFetch : public testing::Test {
 
   bool AwaitWindow() {
     return Await(5000, [&] {
-      window_ = display_->LargestWindow();
+      window_ = display_.LargestWindow();
       return window_.place.width() == 800;
     });
   }
@@ -47,17 +35,11 @@ class WindowDuringAHangingFetch : public testing::Test {
   qint64 TimeToHide() const {
     QElapsedTimer clock;
     clock.start();
-    display_->Click(window_.place.topLeft() + kExitButton);
-    while (display_->Mapped(window_) && clock.elapsed() < 2000) {
+    display_.Click(window_.place.topLeft() + kExitButton);
+    while (display_.Mapped(window_) && clock.elapsed() < 2000) {
     }
     return clock.elapsed();
   }
-
-  Folder folder_;
-  std::unique_ptr<XDisplay> display_;
-  std::unique_ptr<feed::RunningServer> server_;
-  std::unique_ptr<ProgramRun> run_;
-  XDisplay::Window window_;
 };
 
 TEST_F(WindowDuringAHangingFetch, IsHiddenWithin100MillisecondsOfAClickOnExit) {
@@ -68,7 +50,7 @@ TEST_F(WindowDuringAHangingFetch, IsHiddenWithin100MillisecondsOfAClickOnExit) {
       ASSERT_EQ(ProgramRun(folder_, InRoot(folder_, {})).Wait().code, 0) << "a second start shows it again";
       ASSERT_TRUE(AwaitWindow());
     }
-    WatchedWindow(*display_, window_).AwaitPainted();
+    WatchedWindow(display_, window_).AwaitPainted();
     best = std::min(best, TimeToHide());
   }
   EXPECT_LE(best, 100);
@@ -76,7 +58,7 @@ TEST_F(WindowDuringAHangingFetch, IsHiddenWithin100MillisecondsOfAClickOnExit) {
 }
 
 TEST_F(WindowDuringAHangingFetch, IsPaintedAgainWithin100MillisecondsAfterItWasCovered) {
-  const WatchedWindow watched(*display_, window_);
+  const WatchedWindow watched(display_, window_);
   const QByteArray painted = watched.AwaitPainted();
   qint64 best = 2000;
   for (int i = 0; i < 5 && best > 100; ++i) best = std::min(best, watched.TimeToRepaint(painted));

@@ -2,38 +2,21 @@
 #include <gtest/gtest.h>
 #include <signal.h>
 
-#include <memory>
-
-#include "feedserver/running_server.h"
-#include "program/program.h"
-#include "program/watched_window.h"
+#include "program/program_on_a_display.h"
 
 namespace skyloft::program {
 namespace {
 
-class SplashOfAHangingStart : public testing::Test {
+class SplashOfAHangingStart : public ProgramOnADisplay {
  protected:
   void SetUp() override {
-    SetUpTowns(folder_);
-    display_ = std::make_unique<XDisplay>();
-    ASSERT_TRUE(display_->Up()) << "Xvfb must be installed";
-    server_ = std::make_unique<feed::RunningServer>(std::vector<std::string>{
-        "--port", "0", "--log", folder_.Path("log").toStdString(), "--fault", "/forecast.asp?d=meta=hang"});
-    const QString hosts = "127.0.0.1:" + QString::number(server_->Port());
-    run_ = std::make_unique<ProgramRun>(folder_, InRoot(folder_, {"--hosts", hosts}),
-                                        QStringList{"QT_QPA_PLATFORM=xcb", "DISPLAY=" + display_->Name()});
+    ASSERT_NO_FATAL_FAILURE(StartAgainst("/forecast.asp?d=meta=hang"));
     ASSERT_TRUE(AwaitRequest(folder_.Path("log"), "/forecast.asp", "d=meta"));
-    ASSERT_TRUE(Await(5000, [&] { return display_->LargestWindow().place.width() > 100; }));
-    splash_ = display_->LargestWindow();
+    ASSERT_TRUE(Await(5000, [&] { return display_.LargestWindow().place.width() > 100; }));
+    window_ = display_.LargestWindow();
   }
 
-  WatchedWindow Watched() const { return {*display_, splash_}; }
-
-  Folder folder_;
-  std::unique_ptr<XDisplay> display_;
-  std::unique_ptr<feed::RunningServer> server_;
-  std::unique_ptr<ProgramRun> run_;
-  XDisplay::Window splash_;
+  WatchedWindow Watched() const { return {display_, window_}; }
 };
 
 TEST_F(SplashOfAHangingStart, IsPaintedAgainAfterItWasCovered) {
