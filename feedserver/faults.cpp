@@ -59,11 +59,13 @@ std::string WithWrongCounts(std::string_view body) {
   return wrong;
 }
 
-// The same elements over and over, until the text is no smaller than that.
+// The same elements over and over, until the text is no smaller than that. What is no XML stays whole, with
+// elements behind it.
 std::string WithSize(std::size_t size, std::string_view body) {
   std::string start, elements, end;
-  for (const std::string_view line : LinesOf(body))
+  for (const std::string_view line : LinesOf(body.starts_with('<') ? body : ""))
     (line.starts_with("</") ? end : IsElement(line) ? elements : start) += line;
+  if (start.empty()) start = body;
   if (elements.empty()) elements = "<Desc>cloudy</Desc>\n";
   std::string huge = start;
   huge.reserve(size + start.size() + elements.size() + end.size());

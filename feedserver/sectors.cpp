@@ -15,31 +15,37 @@ constexpr std::array<Family, 3> kFamilies = {{{'1', 2000e3}, {'3', 1600e3}, {'4'
 
 // The middles of the regions.
 constexpr auto kRegions = std::to_array<Point>({
-    {45.2, -117.5},  // Northwest
+    {45.8, -117.5},  // Northwest
     {35.3, -114.8},  // Southwest
     {41.8, -105.5},  // Rocky Mountains
     {39.2, -96.5},   // Plains
     {32.2, -97.5},   // Texas and its neighbours
     {41.8, -88.5},   // Middle West
     {42.0, -74.0},   // Northeast
-    {29.8, -83.0},   // Southeast
+    {28.2, -82.0},   // Southeast
     {62.0, -150.5},  // Alaska
     {20.8, -157.3},  // Hawaii
     {18.3, -66.4},   // Puerto Rico
+    {34.0, -86.5},   // South
 });
+
+// The middle of what a client shows of a map at scale: its first 604 by 415 pixels, less the title above and
+// the legend below.
+constexpr Pixel kInSight{302, 209};
 
 double WholeKilometres(double metres) { return std::round(metres / 1000) * 1000; }
 
 std::vector<Sector> MakeSectors() {
-  // The lower 48 states, which reach from -2034 to 2514 km and from -2663 to 186 km, in the middle of a map.
-  std::vector<Sector> sectors = {{"200", -2400e3, 2800e3, -3100e3, 800e3}};
+  // The lower 48 states, which reach from -2034 to 2514 km and from -2663 to 186 km.
+  std::vector<Sector> sectors = {{"200", -2478e3, 3282e3, -3678e3, 642e3}};
   for (const Family& family : kFamilies) {
     const double height = family.width * kMapHeight / kMapWidth;
+    const double metres = family.width / kMapWidth;
     int number = 1;
     for (const Point& region : kRegions) {
       const MapPoint middle = Project(region);
-      const double left = WholeKilometres(middle.x - family.width / 2);
-      const double bottom = WholeKilometres(middle.y - height / 2);
+      const double left = WholeKilometres(middle.x - kInSight.x * metres);
+      const double bottom = WholeKilometres(middle.y + kInSight.y * metres - height);
       std::string id = std::to_string(100 + number++);
       id[0] = family.id;
       sectors.push_back({id, left, left + family.width, bottom, bottom + height});

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <map>
 #include <set>
 
@@ -256,6 +257,30 @@ TEST(Sectors, EveryTownLiesInOneOfEachFamilyAndSomeInTwo) {
     }
   }
   EXPECT_GE(in_two, 3);
+}
+
+// By the choice of a client: of the family's rectangles around it the one with the nearest middle.
+TEST(Sectors, EveryTownIsInSightOnTheMapThatAClientChooses) {
+  for (const char family : {'1', '3', '4'}) {
+    for (const Place& place : Places()) {
+      const ClientPoint point = ClientMap(place.point.latitude, place.point.longitude);
+      double best = 1e9;
+      Edges chosen;
+      for (const Edges& edges : SectorEdges()) {
+        const double distance =
+            std::hypot(point.x - (edges.xmin + edges.xmax) / 2, point.y - (edges.ymin + edges.ymax) / 2);
+        if (edges.id[0] != family || point.x < edges.xmin || point.x > edges.xmax || point.y < edges.ymin ||
+            point.y > edges.ymax || distance >= best)
+          continue;
+        best = distance;
+        chosen = edges;
+      }
+      const double x = (point.x - chosen.xmin) / (chosen.xmax - chosen.xmin) * 640;
+      const double y = (chosen.ymax - point.y) / (chosen.ymax - chosen.ymin) * 480;
+      EXPECT_TRUE(x > 4 && x < 600 && y > 46 && y < 372)
+          << place.city << ' ' << chosen.id << ' ' << x << ' ' << y;
+    }
+  }
 }
 
 TEST(Sectors, ProductsHaveFamiliesThatThereAre) {

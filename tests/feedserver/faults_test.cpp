@@ -66,6 +66,11 @@ TEST(Faults, HugeIsWellFormed) {
   EXPECT_STREQ(document.document_element().name(), "a");
 }
 
+TEST(Faults, HugePictureStaysAPicture) {
+  const std::string picture = std::string("\x89PNG\n<a></a>\n</b>\n\0\n", 21);
+  EXPECT_TRUE(Spoil(FaultKind::Huge, {.type = "image/png", .body = picture}).body.starts_with(picture));
+}
+
 TEST(Faults, ManyAreTheSameElementsAHundredTimesOver) {
   const Reply reply = Sample();
   const std::size_t elements = Values(Scan(reply.body), "b").size();
