@@ -43,6 +43,9 @@ std::string Product(int place) { return "select MainForm.ProductSelection " + st
 // The frame that the start had, in a script's quotes.
 const std::string kFrame = "C:\\\\program files\\\\skyloft\\\\temp\\\\nexr.ktwx.030720032005.png";
 const std::string kIdle = "until idle 20000\n";
+std::string Choose(const char* category, int product) {
+  return Category(category) + kIdle + Product(product) + kIdle;
+}
 // The map that is on show before a picture fails.
 const std::string kFormer = Category("Forecast Maps") + kIdle;
 
@@ -85,15 +88,15 @@ TEST_P(EveryPicturePath, ThatFailsLeavesTheFormerPictureOnShow) {
   std::string acts = kFormer + expect_former;
   for (const PicturePath& path : kPaths) {
     if (path.category == std::string("NEXRAD Radar")) continue;
-    acts += Category(path.category) + kIdle + Product(path.product) + kIdle;
+    acts += Choose(path.category, path.product);
     acts += expect_former;
   }
   acts +=
       "expect MainForm.Legend picture \"C:\\\\program files\\\\skyloft\\\\legends\\\\sfctemp_legend.gif\"\n";
   // A new frame that is no picture is listed behind the start's frame, and shows nothing.
   for (const int product : {0, 1, 2}) {
-    acts += Category("NEXRAD Radar") + kIdle + Product(product) + kIdle +
-            (GetParam().comes ? expect_former : expect_frame);
+    acts += Choose("NEXRAD Radar", product);
+    acts += GetParam().comes ? expect_former : expect_frame;
   }
   const std::string thumbnail = GetParam().comes ? "" : kFrame;  // the newest file, or none yet
   acts += "expect MainForm.Thumbnail picture \"" + thumbnail + "\"\n";
@@ -110,7 +113,7 @@ INSTANTIATE_TEST_SUITE_P(Kinds, EveryPicturePath, testing::ValuesIn(kBadPictures
                          [](const auto& test) { return "By" + std::string(test.param.kind); });
 
 TEST_F(PictureTrouble, APictureWith64MegabytesBehindItIsShown) {
-  const Ending ending = Run({"/mosaic.404.png=huge"}, Category("Observed Maps") + kIdle + Product(1) + kIdle);
+  const Ending ending = Run({"/mosaic.404.png=huge"}, Choose("Observed Maps", 1));
   EXPECT_EQ(ending.code, 0) << ending.errors;
   EXPECT_TRUE(Asked("/mosaic.404.png"));
   EXPECT_TRUE(Image(Shown()).ends_with("\\mosaic.404.png")) << Image(Shown());
@@ -168,8 +171,7 @@ INSTANTIATE_TEST_SUITE_P(Kinds, CatalogueTrouble,
 
 // More products than there is room for: the first of them are listed and can be shown.
 TEST_F(PictureTrouble, ACatalogueThatIsTooLongListsItsFirstProducts) {
-  const Ending ending =
-      Run({"/products.12z.sys.4=many"}, Category("Forecast Maps") + kIdle + Product(0) + kIdle);
+  const Ending ending = Run({"/products.12z.sys.4=many"}, Choose("Forecast Maps", 0));
   EXPECT_EQ(ending.code, 0) << ending.errors;
   EXPECT_TRUE(Image(Shown()).ends_with("\\sfctemp.104.12z.009.gif")) << Image(Shown());
   EXPECT_GT(Shown().Value("MainForm.ProductSelection", "items").toArray().size(), 100);

@@ -20,8 +20,8 @@ namespace skyloft {
 namespace {
 
 constexpr int kLargestSide = 8192;
-constexpr qint64 kLargestArea = 32 * 1024 * 1024;
-constexpr qsizetype kKeptBytes = 24 * 1024 * 1024;
+constexpr qint64 kLargestArea = qint64{32} * 1024 * 1024;
+constexpr qsizetype kKeptBytes = qsizetype{24} * 1024 * 1024;
 constexpr int kFastPng = 80;  // quality: little compression in little time
 
 // A picture that was read, and the file as it was then.
@@ -62,7 +62,7 @@ QImage PictureOf(const std::string& path) {
     kept.splice(kept.begin(), kept, found);
     return found->image;
   }
-  const QImage image = ReadPicture(path);
+  QImage image = ReadPicture(path);
   if (image.isNull()) return image;
   if (found != kept.end()) kept.erase(found);
   kept.push_front({path, info.lastModified(), info.size(), image});
@@ -76,7 +76,7 @@ QRgb RgbOf(PictureColor color) { return qRgb(color.red, color.green, color.blue)
 // 256.
 QImage WithColorTable(const QImage& image) {
   if (image.isNull() || image.colorCount() > 0) return image;
-  const QImage source = image.convertToFormat(QImage::Format_ARGB32);
+  QImage source = image.convertToFormat(QImage::Format_ARGB32);
   QImage out(source.size(), QImage::Format_Indexed8);
   QList<QRgb> table;
   QHash<QRgb, uchar> places;
@@ -134,7 +134,7 @@ QList<QImage> PicturesIn(const std::string& file, int most) {
 
 // The picture that a file's bytes hold, by a table of its colours if that can be.
 QImage IndexedPictureIn(const std::string& file) {
-  const QImage image = ReadPlainGif(file);
+  QImage image = ReadPlainGif(file);
   return image.isNull() ? WithColorTable(PicturesIn(file, 1).value(0)) : image;
 }
 
@@ -156,7 +156,7 @@ bool IsSane(QSize size) {
 
 QImage LoadedPicture(const std::string& path) {
   if (path.empty()) return {};
-  const QImage now = PictureOf(path);
+  QImage now = PictureOf(path);
   if (!now.isNull()) return now;
   const auto kept = FindKept(path);
   if (kept == Kept().end()) return now;
