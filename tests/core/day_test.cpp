@@ -70,6 +70,7 @@ TEST_F(DayInTheLife, EveryRequestOf24HoursGoesOutAtItsTimeForItsTownsAndNoOther)
   const std::string hourly = all + "&st=1%2F1%2F2000+0%3A00%3A00+AM&et=12%2F31%2F2100+12%3A00%3A00+AM&t=xml";
   const std::string extended = all + "&t=xml&fcsttype=extended";
   const std::string hosts = "/skyloft/config/hosts.xml";
+  const std::string messages = "/messages.xml.1";
   std::vector<std::string> radar;  // of sites that the feed does not know, so that they are never fresh
   for (int i = 0; i < 3; ++i) {
     radar.push_back("/radar/images/DS.p19r0/SI.ktw" + std::to_string(i) + "/latest.gif");
@@ -90,7 +91,7 @@ TEST_F(DayInTheLife, EveryRequestOf24HoursGoesOutAtItsTimeForItsTownsAndNoOther)
   EXPECT_EQ(NewRequests(),
             (std::vector<std::string>{hosts, meta, "/products." + catalogue(loaded) + ".4",
                                       "/sectors." + catalogue(loaded), all + "&t=xml&d=current", hourly,
-                                      extended, radar[0], radar[1], radar[2]}));
+                                      extended, radar[0], radar[1], radar[2], messages}));
 
   int chains = 0;
   for (int tick = 1; tick <= 24 * 3600 / kTickSeconds; ++tick) {
@@ -99,8 +100,9 @@ TEST_F(DayInTheLife, EveryRequestOf24HoursGoesOutAtItsTimeForItsTownsAndNoOther)
     MainForm.UpdateTimer.Elapse();
 
     std::vector<std::string> expected;
-    if (tick % 20 == 0) expected = radar;  // 10 minutes
-    if (tick % 30 == 0) {                  // 15 minutes
+    if (tick % 10 == 0) expected = {messages};                                        // 5 minutes
+    if (tick % 20 == 0) expected.insert(expected.end(), radar.begin(), radar.end());  // 10 minutes
+    if (tick % 30 == 0) {                                                             // 15 minutes
       expected.push_back(meta);
       std::vector<std::string> moved;
       for (const std::string& zip : zips) {

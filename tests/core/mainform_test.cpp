@@ -25,7 +25,8 @@ class StartUp : public Station {
  protected:
   // A server that answers, and `count` locations in the store.
   static void SetUpStored(int count) {
-    Doubles.Reply("hosts.xml", Reply(Element("version", "1.20.00") + Element("forecastserver", "server/")));
+    Doubles.Reply("hosts.xml", Reply(Element("version", "1.20.00") + Element("forecastserver", "server/") +
+                                     Element("messageserver", "messages")));
     LoadOptions();  // the defaults, as at any start
     SetUpLocations(count);
     SaveSystem();
@@ -65,15 +66,16 @@ TEST_F(StartUp, EachQueryIsSentOnceForAllLocationsInTheOrderOfTheSteps) {
   SetUpStored(2);
   LoadMainForm();
   // The hourly query has no reply here, so that the extended one is not sent.
-  EXPECT_EQ(Doubles.requests, (std::vector<std::string>{
-                                  "www.skyloft.example/skyloft/config/hosts.xml",
-                                  "server/forecast.asp?pc=10000&pc=10001&t=xml&d=meta", "products.12z.sys.4",
-                                  "sectors.12z.sys", "server/forecast.asp?pc=10000&pc=10001&t=xml&d=current",
-                                  "server/forecast.asp?pc=10000&pc=10001"
-                                  "&st=1%2F1%2F2000+0%3A00%3A00+AM&et=12%2F31%2F2100+12%3A00%3A00+AM"
-                                  "&t=xml",
-                                  "radar.skyloft.example/radar/images/DS.p19r0/SI.ktw0/latest.gif",
-                                  "radar.skyloft.example/radar/images/DS.p19r0/SI.ktw1/latest.gif"}));
+  EXPECT_EQ(Doubles.requests,
+            (std::vector<std::string>{
+                "www.skyloft.example/skyloft/config/hosts.xml",
+                "server/forecast.asp?pc=10000&pc=10001&t=xml&d=meta", "products.12z.sys.4", "sectors.12z.sys",
+                "server/forecast.asp?pc=10000&pc=10001&t=xml&d=current",
+                "server/forecast.asp?pc=10000&pc=10001"
+                "&st=1%2F1%2F2000+0%3A00%3A00+AM&et=12%2F31%2F2100+12%3A00%3A00+AM"
+                "&t=xml",
+                "radar.skyloft.example/radar/images/DS.p19r0/SI.ktw0/latest.gif",
+                "radar.skyloft.example/radar/images/DS.p19r0/SI.ktw1/latest.gif", "messages.1"}));
 }
 
 TEST_F(StartUp, WithoutALocationTheWizardRunsAndTheSplashIsNotUsed) {
@@ -213,6 +215,10 @@ TEST_F(StartUp, AnUnreachableServerEndsTheProcessWithItsCachedDataUntouched) {
 TEST_F(StartUp, TheTickerIsSizedAndPlacedByTheWorkArea) {
   Doubles.work_area = {600, 15000, 12000};
   SetUpStored(1);
+  for (const char* page :
+       {"ShowCurrentConditions", "ShowHourlyForecast", "Show3DayForecast", "ShowAlmanac"}) {
+    Doubles.Store(kOptionsKey, page, "0");
+  }
   LoadMainForm();
   EXPECT_EQ(TickerForm.Height, 525);
   EXPECT_EQ(TickerForm.Width, 15000);

@@ -19,7 +19,8 @@ class WatchedWindow {
   qint64 TimeToRepaint(const QByteArray& painted) const;
 
  private:
-  QByteArray Pixels() const { return display_.Pixels(window_.place); }
+  // Without the strip at the foot, where a text may run.
+  QByteArray Pixels() const { return display_.Pixels(window_.place.adjusted(0, 0, 0, -40)); }
   bool IsCovered() const;
 
   const XDisplay& display_;

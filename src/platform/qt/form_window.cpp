@@ -6,9 +6,12 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPushButton>
+#include <QTimer>
 #include <QWindow>
 
 #include "forms/forms.h"
+#include "platform/qt/dialog_keys.h"
 #include "platform/qt/html/html_view.h"
 #include "platform/qt/skin_style.h"
 #include "platform/qt/text_qt.h"
@@ -18,9 +21,11 @@
 namespace skyloft {
 namespace {
 
+bool IsDialog(const Form& form) { return (form.Style & 0xC00000u) != 0; }
+
 // The bits of a form's style that the window acts on, but for the top-most band.
 Qt::WindowFlags FlagsOf(const Form& form) {
-  const bool titled = (form.Style & 0xC00000u) != 0;
+  const bool titled = IsDialog(form);
   const bool tool = (form.ExStyle & 0x80u) != 0;
   const bool in_taskbar = (form.ExStyle & 0x40000u) != 0;
   Qt::WindowFlags flags = tool ? Qt::Tool : in_taskbar ? Qt::Window : titled ? Qt::Dialog : Qt::Tool;
@@ -35,7 +40,10 @@ QPoint PixelsOf(const Form& form) { return {form.Left / kTwipsPerPixel, form.Top
 
 }  // namespace
 
-FormWindow::FormWindow(Form& form) : QWidget(nullptr, FlagsOf(form)), form_(form) {
+FormWindow::FormWindow(Form& form)
+    : QWidget(nullptr, FlagsOf(form)),
+      form_(form),
+      letters_(IsDialog(form) ? MnemonicsOf(form) : std::unordered_map<const Control*, QChar>()) {
   setObjectName(ToQt(form.Name()));
   setFixedSize(form.Width / kTwipsPerPixel, form.Height / kTwipsPerPixel);
   if (const std::string body = BodyPicture(form); !body.empty()) body_.load("skin:" + ToQt(body));
@@ -111,6 +119,31 @@ void FormWindow::mouseMoveEvent(QMouseEvent* event) {
 void FormWindow::mouseReleaseEvent(QMouseEvent* event) {
   if (event->buttons() == Qt::NoButton) held_at_.reset();
   Raise([&] { form_.Release(PressOf(*event)); });
+}
+
+// Enter and Esc, unless the control that has the focus takes them.
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (enter) {
+    if (auto* button = qobject_cast<QPushButton*>(focusWidget())) return button->click();
+    if (PressDefault(form_)) return;
+  }
+  if (event->key() == Qt::Key_Escape && PressCancel(form_)) return;
+  QWidget::keyPressEvent(event);
+}
+
+void FormWindow::FocusLater(QWidget& page) {
+  QTimer::singleShot(0, &page, [this, &page] {
+    if (!page.isVisible() || page.isAncestorOf(focusWidget()) || FocusFirst(page)) return;
+    for (QPushButton* button : findChildren<QPushButton*>(Qt::FindDirectChildrenOnly)) {
+      if (button->isDefault()) button->setFocus();
+    }
+  });
+}
+
+QChar FormWindow::LetterOf(const Control& control) const {
+  const auto letter = letters_.find(&control);
+  return letter == letters_.end() ? QChar() : letter->second;
 }
 
 // The user moved the window: the model follows, and its place is saved with the settings.

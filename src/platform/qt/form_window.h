@@ -33,11 +33,15 @@ class FormWindow : public QWidget {
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void moveEvent(QMoveEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void changeEvent(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
   void PutOnTop(bool on);
+  // Once control is back in the loop, the first control of a page that has just come up has the focus.
+  void FocusLater(QWidget& page);
+  QChar LetterOf(const Control& control) const;
 
   // A control's widget and what brings it up to its model.
   struct View {
@@ -48,6 +52,7 @@ class FormWindow : public QWidget {
 
   Form& form_;
   QImage body_;
+  const std::unordered_map<const Control*, QChar> letters_;  // with Alt; a dialog's only
   std::unordered_map<const Control*, View> views_;
   std::vector<HtmlView*> pages_;
   bool placing_ = false;

@@ -9,6 +9,7 @@
 #include <QRadioButton>
 #include <QTabBar>
 
+#include "platform/qt/dialog_keys.h"
 #include "platform/qt/form_window.h"
 #include "platform/qt/html/html_view.h"
 #include "platform/qt/page_services.h"
@@ -46,7 +47,12 @@ class ViewMaker : public ControlVisitor {
     label->setAlignment(AlignmentOf(model));
     if (model.Name() == "EmailLink") label->setCursor(Qt::PointingHandCursor);
     if (model.Click) label->clicked = [&model] { Raise([&] { model.Press(); }); };
-    Keep(model, label, [&model, label] { label->setText(ToQt(model.Caption)); });
+    const Control* field = FieldOf(model);
+    const QChar letter = window_.LetterOf(model);
+    if (field && !letter.isNull()) waiting_[field] = label;
+    Keep(model, label, [&model, label, letter] {
+      label->setText(letter.isNull() ? ToQt(model.Caption) : WithMnemonic(ToQt(model.Caption), letter));
+    });
   }
 
   void Visit(TextBox& model) override {
@@ -63,7 +69,10 @@ class ViewMaker : public ControlVisitor {
   void Visit(Button& model) override {
     auto* button = new QPushButton(ParentOf(model));
     QObject::connect(button, &QPushButton::clicked, button, [&model] { Raise([&] { model.Press(); }); });
-    Keep(model, button, [&model, button] { button->setText(ToQt(model.Caption)); });
+    const QChar letter = window_.LetterOf(model);
+    button->setDefault(model.Default);
+    Keep(model, button,
+         [&model, button, letter] { button->setText(WithMnemonic(ToQt(model.Caption), letter)); });
   }
 
   void Visit(CheckBox& model) override { MakeCheck(model, new QCheckBox(ParentOf(model))); }
@@ -144,7 +153,12 @@ class ViewMaker : public ControlVisitor {
 
   void Visit(Frame& model) override {
     auto* frame = new QGroupBox(ParentOf(model));
-    Keep(model, frame, [&model, frame] { frame->setTitle(ToQt(model.Caption)); });
+    frame->setAutoFillBackground(true);  // a page covers those under it
+    frame->hide();
+    Keep(model, frame, [this_window = &window_, &model, frame] {
+      frame->setTitle(ToQt(model.Caption));
+      if (model.Visible && frame->isHidden()) this_window->FocusLater(*frame);
+    });
   }
 
   void Visit(TabStrip& model) override {
@@ -165,8 +179,9 @@ class ViewMaker : public ControlVisitor {
   void MakeCheck(CheckBox& model, Box* box) {
     QObject::connect(box, &Box::clicked, box,
                      [&model](bool checked) { Raise([&] { model.Check(checked); }); });
-    Keep(model, box, [&model, box] {
-      box->setText(ToQt(model.Caption));
+    const QChar letter = window_.LetterOf(model);
+    Keep(model, box, [&model, box, letter] {
+      box->setText(WithMnemonic(ToQt(model.Caption), letter));
       box->setChecked(model.Checked);
     });
   }
@@ -186,6 +201,8 @@ class ViewMaker : public ControlVisitor {
   // What all widgets have in common, and `show` on top of it.
   void Keep(const Control& model, QWidget* widget, std::function<void()> show) {
     widget->setObjectName(ToQt(model.Name()));
+    widget->setAccessibleName(SpokenName(model));
+    if (const auto label = waiting_.find(&model); label != waiting_.end()) label->second->setBuddy(widget);
     window_.views_[&model] = {widget, [&model, widget, show = std::move(show)] {
                                 widget->setGeometry(model.Left, model.Top, model.Width, model.Height);
                                 widget->setEnabled(model.Enabled);
@@ -196,6 +213,7 @@ class ViewMaker : public ControlVisitor {
   }
 
   FormWindow& window_;
+  std::unordered_map<const Control*, QLabel*> waiting_;  // labels by the field they name, which is made next
 };
 
 void MakeViews(FormWindow& window, const std::vector<Control*>& controls) {
