@@ -1,5 +1,6 @@
 #include "platform/qt/dialog_keys.h"
 
+#include <QLineEdit>
 #include <QWidget>
 
 #include "platform/qt/text_qt.h"
@@ -124,12 +125,14 @@ bool PressDefault(const Form& form) { return PressButton(form, &Button::Default)
 bool PressCancel(const Form& form) { return PressButton(form, &Button::Cancels); }
 
 bool FocusFirst(QWidget& container) {
-  for (QObject* child : container.children()) {
-    auto* widget = qobject_cast<QWidget*>(child);
-    if (!widget || !widget->isEnabled() || !widget->isVisibleTo(&container)) continue;
-    if ((widget->focusPolicy() & Qt::TabFocus) != Qt::TabFocus) continue;
-    widget->setFocus(Qt::OtherFocusReason);
-    return true;
+  for (const bool text_only : {true, false}) {
+    for (QWidget* widget : container.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+      if (!widget->isEnabled() || !widget->isVisibleTo(&container)) continue;
+      if ((widget->focusPolicy() & Qt::TabFocus) != Qt::TabFocus) continue;
+      if (text_only && !qobject_cast<QLineEdit*>(widget)) continue;
+      widget->setFocus(Qt::OtherFocusReason);
+      return true;
+    }
   }
   return false;
 }

@@ -30,7 +30,8 @@ QString SpokenName(const Control& control);
 bool PressDefault(const Form& form);
 bool PressCancel(const Form& form);
 
-// Gives the focus to the first control inside that the Tab key reaches; false when there is none.
+// Gives the focus to the first text box inside that is on, else to the first control that the Tab key
+// reaches; false when there is none.
 bool FocusFirst(QWidget& container);
 
 }  // namespace skyloft

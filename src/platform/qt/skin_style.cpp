@@ -37,7 +37,10 @@ QString SkinStyle() {
     QPushButton:focus { border-color: #ffd35c; }
     QPushButton:pressed { background: #1b3263; }
     QPushButton:disabled { color: #6f7fa3; background: #182a52; border-color: #2f4675; }
-    QGroupBox { border: 1px solid #3a568c; border-radius: 6px; margin-top: 8px; }
+    QLabel#EmailHeading, QLabel#VerificationHeading, QLabel#NWSHeading, QLabel#Personal1Heading,
+    QLabel#Personal2Heading, QLabel#Personal3Heading, QLabel#LocationTitleHeader {
+      font-weight: bold; font-size: 15px; color: #ffd35c; }
+    QGroupBox { background: #12234a; border: 1px solid #3a568c; border-radius: 6px; margin-top: 8px; }
     QGroupBox::title { subcontrol-origin: margin; left: 10px; color: #9fb6e6; }
     QLabel:disabled, QCheckBox:disabled, QRadioButton:disabled { color: #6f7fa3; }
     QTabBar::tab { background: #16294f; border: 1px solid #3a568c; padding: 5px 14px; }

@@ -100,6 +100,7 @@ class ViewMaker : public ControlVisitor {
 
   void Visit(ImageButton& model) override {
     auto* button = new PictureButton(ParentOf(model));
+    if (!model.Click && !model.MouseDown) button->setFocusPolicy(Qt::NoFocus);  // it shows something
     QObject::connect(button, &QAbstractButton::pressed, button, [&model] { Raise([&] { model.Down(); }); });
     QObject::connect(button, &QAbstractButton::released, button, [&model] { Raise([&] { model.Up(); }); });
     QObject::connect(button, &QAbstractButton::clicked, button, [&model] { Raise([&] { model.Press(); }); });
@@ -153,7 +154,6 @@ class ViewMaker : public ControlVisitor {
 
   void Visit(Frame& model) override {
     auto* frame = new QGroupBox(ParentOf(model));
-    frame->setAutoFillBackground(true);  // a page covers those under it
     frame->hide();
     Keep(model, frame, [this_window = &window_, &model, frame] {
       frame->setTitle(ToQt(model.Caption));

@@ -12,6 +12,7 @@
 
 #include "platform/qt/display.h"
 #include "platform/qt/form_window.h"
+#include "platform/qt/skin_style.h"
 
 namespace skyloft {
 namespace {
@@ -166,6 +167,7 @@ TEST_F(DialogKeys, APageWithoutAnythingToEnterLeavesTheFocusToTheDefaultButton) 
 }
 
 TEST_F(DialogKeys, APageCoversTheOneUnderIt) {
+  application_.setStyleSheet(SkinStyle());
   form_.Pages[1].Visible = true;
   for (Control* page : {static_cast<Control*>(&form_.Pages[0]), static_cast<Control*>(&form_.Pages[1])}) {
     page->Top = 0;
