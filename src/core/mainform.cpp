@@ -35,6 +35,7 @@
 #include "settings/registry.h"
 #include "settings/settings.h"
 #include "setup/menu.h"
+#include "setup/options.h"
 #include "setup/wizard.h"
 #include "ticker/messages.h"
 #include "ticker/ticker.h"
@@ -152,6 +153,7 @@ void ConnectForms() {
   ConnectPersonalAlerts();
   ConnectTray();
   ConnectWizard();
+  ConnectOptions();
   ConnectMenu();
   SystemFontForm.OKButton.Click = EndProcess;
   SystemFontForm.Unload = EndProcess;

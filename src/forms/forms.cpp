@@ -37,4 +37,15 @@ Control* FindControl(std::string_view name) {
   return nullptr;
 }
 
+std::vector<Control*> FindMembers(const std::string& array) {
+  std::vector<Control*> members;
+  for (Form* form : AllForms()) {
+    for (Control* control : form->Controls()) {
+      const std::string name = form->Name() + "." + control->Name();
+      if (name.starts_with(array + "[")) members.push_back(control);
+    }
+  }
+  return members;
+}
+
 }  // namespace skyloft

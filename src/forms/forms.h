@@ -18,6 +18,9 @@ const std::vector<Form*>& AllForms();
 // when there is none.
 Control* FindControl(std::string_view name);
 
+// The members of a control array by its outside name, "MainForm.SysTray".
+std::vector<Control*> FindMembers(const std::string& array);
+
 // Puts a form into the middle of the screen.
 void CentreForm(Form& form);
 

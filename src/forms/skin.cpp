@@ -229,11 +229,7 @@ void ApplySkin() {
       Place(*control, row);
       continue;
     }
-    // A control array: its members lie on one another.
-    for (int i = 0; Control* member = FindControl(std::string(row.control) + "[" + std::to_string(i) + "]");
-         ++i) {
-      Place(*member, row);
-    }
+    for (Control* member : FindMembers(row.control)) Place(*member, row);  // they lie on one another
   }
 }
 

@@ -8,11 +8,10 @@ namespace skyloft {
 struct SystemOptionsFormControls : Form {
   SystemOptionsFormControls() : Form("SystemOptionsForm", "Skyloft System Options", Border::Dialog) {
     TabStripOptions.Tabs = {"Email", "Ticker", "Update", "Connection"};
-    const char* frames[] = {"Email Options", "Ticker Options", "Update Frequency", "Connection Options"};
-    for (int i = 0; i < OptionsFrame.Size(); ++i) {
-      OptionsFrame[i].Caption = frames[i];
-      OptionsFrame[i].Visible = i == 0;  // they lie on one another
-    }
+    OptionsFrame[1].Caption = "Email Options";
+    OptionsFrame[2].Caption = "Ticker Options";
+    OptionsFrame[3].Caption = "Update Frequency";
+    OptionsFrame[4].Caption = "Connection Options";
     Email1Label.Caption = "Email Address";
     Email2Label.Caption = "Re-Type Email Address";
     EmailOptionValue.Caption = "Inform me of Skyloft News and Updates";
@@ -30,6 +29,7 @@ struct SystemOptionsFormControls : Form {
     NWSLabel.Caption = "Severe Weather Warnings:";
     AutoConnect.Caption = "Automatically connect to the internet";
     OKButton.Caption = "OK";
+    OKButton.Default = true;
     SponsorBanner.Visible = false;
     FillMinutes(NWSIndexMax, 2, 10, 1);
     FillMinutes(CurrentConditionsIndexMax, 5, 60, 5);
@@ -38,35 +38,35 @@ struct SystemOptionsFormControls : Form {
   }
 
   TabStrip TabStripOptions{this, "TabStripOptions"};
-  // One frame a tab; member 0 belongs to tab 1.
-  ControlArray<Frame, 4> OptionsFrame{this, "OptionsFrame"};
+  // One frame a tab, by the tab's number; they lie on one another.
+  ControlArray<Frame, 4, 1> OptionsFrame{this, "OptionsFrame"};
 
-  Label Email1Label{this, "Email1Label", &OptionsFrame[0]};
-  TextBox Email1Value{this, "Email1Value", &OptionsFrame[0]};
-  Label Email2Label{this, "Email2Label", &OptionsFrame[0]};
-  TextBox Email2Value{this, "Email2Value", &OptionsFrame[0]};
-  CheckBox EmailOptionValue{this, "EmailOptionValue", &OptionsFrame[0]};
+  Label Email1Label{this, "Email1Label", &OptionsFrame[1]};
+  TextBox Email1Value{this, "Email1Value", &OptionsFrame[1]};
+  Label Email2Label{this, "Email2Label", &OptionsFrame[1]};
+  TextBox Email2Value{this, "Email2Value", &OptionsFrame[1]};
+  CheckBox EmailOptionValue{this, "EmailOptionValue", &OptionsFrame[1]};
 
-  CheckBox ShowTicker{this, "ShowTicker", &OptionsFrame[1]};
-  CheckBox AlwaysOnTop{this, "AlwaysOnTop", &OptionsFrame[1]};
-  CheckBox TopScreenPosition{this, "TopScreenPosition", &OptionsFrame[1]};
-  CheckBox BottomScreenPosition{this, "BottomScreenPosition", &OptionsFrame[1]};
-  CheckBox ShowCurrentConditions{this, "ShowCurrentConditions", &OptionsFrame[1]};
-  CheckBox ShowHourlyForecast{this, "ShowHourlyForecast", &OptionsFrame[1]};
-  CheckBox Show3DayForecast{this, "Show3DayForecast", &OptionsFrame[1]};
-  CheckBox ShowAlmanac{this, "ShowAlmanac", &OptionsFrame[1]};
+  CheckBox ShowTicker{this, "ShowTicker", &OptionsFrame[2]};
+  CheckBox AlwaysOnTop{this, "AlwaysOnTop", &OptionsFrame[2]};
+  CheckBox TopScreenPosition{this, "TopScreenPosition", &OptionsFrame[2]};
+  CheckBox BottomScreenPosition{this, "BottomScreenPosition", &OptionsFrame[2]};
+  CheckBox ShowCurrentConditions{this, "ShowCurrentConditions", &OptionsFrame[2]};
+  CheckBox ShowHourlyForecast{this, "ShowHourlyForecast", &OptionsFrame[2]};
+  CheckBox Show3DayForecast{this, "Show3DayForecast", &OptionsFrame[2]};
+  CheckBox ShowAlmanac{this, "ShowAlmanac", &OptionsFrame[2]};
 
   // Minutes between two refreshes; what counts is the selected entry's text.
-  Label CurrentConditionsLabel{this, "CurrentConditionsLabel", &OptionsFrame[2]};
-  ListControl CurrentConditionsIndexMax{this, "CurrentConditionsIndexMax", &OptionsFrame[2]};
-  Label ForecastLabel{this, "ForecastLabel", &OptionsFrame[2]};
-  ListControl ForecastIndexMax{this, "ForecastIndexMax", &OptionsFrame[2]};
-  Label NexradLabel{this, "NexradLabel", &OptionsFrame[2]};
-  ListControl NexradIndexMax{this, "NexradIndexMax", &OptionsFrame[2]};
-  Label NWSLabel{this, "NWSLabel", &OptionsFrame[2]};
-  ListControl NWSIndexMax{this, "NWSIndexMax", &OptionsFrame[2]};
+  Label CurrentConditionsLabel{this, "CurrentConditionsLabel", &OptionsFrame[3]};
+  ListControl CurrentConditionsIndexMax{this, "CurrentConditionsIndexMax", &OptionsFrame[3]};
+  Label ForecastLabel{this, "ForecastLabel", &OptionsFrame[3]};
+  ListControl ForecastIndexMax{this, "ForecastIndexMax", &OptionsFrame[3]};
+  Label NexradLabel{this, "NexradLabel", &OptionsFrame[3]};
+  ListControl NexradIndexMax{this, "NexradIndexMax", &OptionsFrame[3]};
+  Label NWSLabel{this, "NWSLabel", &OptionsFrame[3]};
+  ListControl NWSIndexMax{this, "NWSIndexMax", &OptionsFrame[3]};
 
-  CheckBox AutoConnect{this, "AutoConnect", &OptionsFrame[3]};
+  CheckBox AutoConnect{this, "AutoConnect", &OptionsFrame[4]};
 
   HtmlDisplay SponsorBanner{this, "SponsorBanner"};
   Button OKButton{this, "OKButton"};

@@ -21,7 +21,8 @@ class Form;
 struct ControlVisitor;
 
 using Event = std::function<void()>;
-// A mouse press on a control: pixels from its upper left corner.
+// A mouse press on a control: pixels from its upper left corner. Any button but the left counts as the right;
+// Double is the second press of a double click with the left.
 enum class MouseButton { Left, Right, Double };
 struct MousePress {
   int x, y;
@@ -105,22 +106,23 @@ class Control {
 std::vector<Control*> TakeDirtyControls();
 bool AnyDirtyControl();
 
-// The members of a control array: "SysTray[0]" and so on.
-template <class T, int N>
+// The members of a control array: "SysTray[0]" and so on, counted from `First`.
+template <class T, int N, int First = 0>
 class ControlArray {
  public:
+  static constexpr int kFirst = First, kLast = First + N - 1;
   ControlArray(Form* form, const std::string& name, Control* container = nullptr) {
     items_.reserve(N);
-    for (int i = 0; i < N; ++i) {
+    for (int i = kFirst; i <= kLast; ++i) {
       items_.push_back(std::make_unique<T>(form, name + "[" + std::to_string(i) + "]", container));
     }
   }
   ControlArray(const ControlArray&) = delete;
   ControlArray& operator=(const ControlArray& other) {
-    for (int i = 0; i < N; ++i) *items_[static_cast<size_t>(i)] = other[i];
+    for (int i = kFirst; i <= kLast; ++i) (*this)[i] = other[i];
     return *this;
   }
-  T& operator[](long long index) const { return *items_[CheckedIndex(index, N)]; }
+  T& operator[](long long index) const { return *items_[CheckedIndex(index - First, N)]; }
   static constexpr int Size() { return N; }
 
  private:

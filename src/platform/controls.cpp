@@ -25,7 +25,7 @@ void TextBox::Describe(PropertyList& out) const {
 }
 
 void TextBox::Enter(const std::string& text) {
-  if (!Enabled || Locked) return;
+  if (!Enabled || Locked || text == Text.Get()) return;
   Text = text;
   Fire(Change);
 }

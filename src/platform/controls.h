@@ -23,7 +23,7 @@ class TextBox : public Control {
   std::string_view Type() const override { return "TextBox"; }
   void Describe(PropertyList& out) const override;
   void Accept(ControlVisitor& visitor) override;
-  void Enter(const std::string& text);  // act: replaces the whole text
+  void Enter(const std::string& text);  // act: replaces the whole text; the same one is no change
   Property<std::string> Text{this};
   Property<bool> Locked{this};  // for showing only
   Event Change;

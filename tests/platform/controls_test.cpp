@@ -219,11 +219,6 @@ TEST(Skin, NoTwoControlsOfTheMainWindowOverlapButTheDisplays) {
   }
 }
 
-TEST(Skin, OptionsBeginWithTheFirstOfTheFramesThatLieOnOneAnother) {
-  const SystemOptionsFormControls form;
-  for (int i = 0; i < form.OptionsFrame.Size(); ++i) EXPECT_EQ(form.OptionsFrame[i].Visible.Get(), i == 0);
-}
-
 TEST(Skin, TheToldSizesHold) {
   ApplySkin();
   EXPECT_EQ(MainForm.Width, 800 * 15);
