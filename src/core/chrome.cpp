@@ -46,10 +46,7 @@ void ConnectPresses(const ImageButtonState& state) {
 
 // Help is a page of the product browser.
 void ShowHelp() {
-  Guarded([] {
-    MainForm.CategorySelection.Select(Catalogues.SupportCategoryIndex);
-    MainForm.Visible = true;
-  });
+  Guarded([] { ShowCategory(Catalogues.SupportCategoryIndex); });
 }
 
 // The legend goes or comes on the press already.

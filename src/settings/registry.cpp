@@ -55,12 +55,6 @@ void ShowTitles(int location) {
   ShowTitle(MenuForm.TrayLocationTitle[location], location);
 }
 
-void CheckTrayLocation() {
-  const int chosen = WholeNumber(Settings.TrayLocationIndex);
-  for (int i = 0; i < MenuForm.TrayLocationTitle.Size(); ++i) MenuForm.TrayLocationTitle[i].Checked = false;
-  MenuForm.TrayLocationTitle[chosen].Checked = true;
-}
-
 }  // namespace
 
 std::uint32_t RegistryRoot(const std::string& root) {
@@ -152,6 +146,12 @@ void SaveSystem() {
     for (int i = 0; i < kLocationSlots; ++i) ShowTitles(i);
     CheckTrayLocation();
   });
+}
+
+void CheckTrayLocation() {
+  const int chosen = WholeNumber(Settings.TrayLocationIndex);
+  for (int i = 0; i < MenuForm.TrayLocationTitle.Size(); ++i) MenuForm.TrayLocationTitle[i].Checked = false;
+  MenuForm.TrayLocationTitle[chosen].Checked = true;
 }
 
 void ListTitles() {

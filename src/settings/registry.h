@@ -49,5 +49,7 @@ void LoadSystem();
 
 // Makes the list and the menu entries of the locations anew from their titles; nothing is selected then.
 void ListTitles();
+// Puts the check mark of the tray's location, and takes it from all others. Raises when there is none.
+void CheckTrayLocation();
 
 }  // namespace skyloft

@@ -42,6 +42,8 @@ void Load(std::string& value, const char* name, const std::string& fallback) {
 
 void Save(const char* name, const std::string& text) { WriteSetting(kSettingsKey, name, text); }
 
+void PutTrayLocation() { Save("TrayLocationIndex", NumberText(LenientNumber(Settings.TrayLocationIndex))); }
+
 // An option that is a check box.
 struct CheckRow {
   const char* name;
@@ -73,6 +75,10 @@ const ListRow kLists[] = {
     {"ForecastUpdate", "11", "11", &SystemOptionsFormControls::ForecastIndexMax},
     {"NexradUpdate", "0", "0", &SystemOptionsFormControls::NexradIndexMax},
 };
+
+void Put(const CheckRow& row) {
+  WriteSetting(kOptionsKey, row.name, (SystemOptionsForm.*row.box).Checked ? "1" : "0");
+}
 
 bool IsOn(const std::string& text) { return LenientNumber(text) == 1; }
 
@@ -110,12 +116,19 @@ void SaveSettings() {
     Save("Hosts", HostAddress.Hosts);
     Save("Location", NumberOrEmpty(Settings.Location));
     Save("LocationIndexMax", NumberOrEmpty(Settings.LocationIndexMax));
-    Save("TrayLocationIndex", NumberText(LenientNumber(Settings.TrayLocationIndex)));
+    PutTrayLocation();
     Save("GMTStartTime", Settings.GMTStartTime);
     Save("ModelLocal", Settings.ModelLocal);
     Save("ModelServer", Settings.ModelServer);
     Save("StartHourIndex", Settings.StartHourIndex);
     Save("StopHourIndex", Settings.StopHourIndex);
+    SyncSaves();
+  });
+}
+
+void SaveTrayLocation() {
+  Guarded([] {
+    PutTrayLocation();
     SyncSaves();
   });
 }
@@ -154,12 +167,21 @@ void SaveOptions() {
       WriteSetting(kOptionsKey, name, text);
     };
     write("EmailAddress", SystemOptionsForm.Email1Value.Text);
-    for (const CheckRow& row : kCheckBoxes) write(row.name, (SystemOptionsForm.*row.box).Checked ? "1" : "0");
+    for (const CheckRow& row : kCheckBoxes) Put(row);
     for (const ListRow& row : kLists) {
       write(row.name, NumberText((SystemOptionsForm.*row.list).ListIndex()));
     }
     write("AutoConnect", SystemOptionsForm.AutoConnect.Checked ? "1" : "0");
     write("LegendFlag", NumberText(Settings.LegendFlag));
+    SyncSaves();
+  });
+}
+
+void SaveOption(const CheckBox& box) {
+  Guarded([&] {
+    for (const CheckRow& row : kCheckBoxes) {
+      if (&(SystemOptionsForm.*row.box) == &box) Put(row);
+    }
     SyncSaves();
   });
 }

@@ -4,6 +4,8 @@
 
 #include <string>
 
+#include "platform/controls.h"
+
 namespace skyloft {
 
 inline constexpr const char* kSettingsKey = "Software\\Aerolume\\Skyloft\\Settings";
@@ -31,10 +33,14 @@ int SelectedLocation();
 // goes to the stored place, or to the screen's centre when either of Top and Left is empty.
 void LoadSettings();
 void SaveSettings();
+// TrayLocationIndex alone.
+void SaveTrayLocation();
 
 // LoadOptions repairs the "-1" of an unselected list: current conditions to 10 minutes, although the default
 // is 15; both are meant.
 void LoadOptions();
 void SaveOptions();
+// One check box of the options alone.
+void SaveOption(const CheckBox& box);
 
 }  // namespace skyloft

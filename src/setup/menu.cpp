@@ -1,12 +1,17 @@
 #include "setup/menu.h"
 
 #include "core/tray.h"
+#include "feed/catalogues.h"
 #include "forms/main_form.h"
 #include "forms/menu_form.h"
+#include "forms/system_options_form.h"
 #include "forms/ticker_form.h"
+#include "platform/dialogs.h"
 #include "platform/process.h"
 #include "platform/window.h"
 #include "settings/registry.h"
+#include "setup/location_menu.h"
+#include "setup/ticker_menu.h"
 
 namespace skyloft {
 namespace {
@@ -20,11 +25,21 @@ void OpenMenu(bool main_hidden) {
   PopUpMenu(MainForm, MenuForm.Options);
 }
 
+void ShowSystemOptions() {
+  SystemOptionsForm.TabStripOptions.Select(1);
+  SystemOptionsForm.Visible = true;
+}
+
 }  // namespace
 
 void OpenMainMenu() { OpenMenu(false); }
 
 void OpenTrayMenu() { OpenMenu(!MainForm.Visible); }
+
+void ShowCategory(int index) {
+  MainForm.CategorySelection.Select(index);
+  MainForm.Visible = true;
+}
 
 void ExitSkyloft() {
   SaveSystem();
@@ -32,9 +47,22 @@ void ExitSkyloft() {
   EndProcess();
 }
 
+void ExitProgram() {
+  const BoxAnswer answer = ShowBox(BoxKind::Question, "WARNING: This will disable Skyloft! Are you sure?");
+  if (answer == BoxAnswer::Yes) ExitSkyloft();
+}
+
 void ConnectMenu() {
-  MenuForm.ShowSkyloft.Click = [] { MainForm.Visible = true; };
+  MenuForm.SystemSettings.Click = ShowSystemOptions;
+  MenuForm.Share.Click = [] { ShowCategory(Catalogues.ShareCategoryIndex); };
+  MenuForm.TechnicalSupport.Click = [] { ShowCategory(Catalogues.SupportCategoryIndex); };
+  MenuForm.MonthlyNewsletter.Click = [] { ShowCategory(Catalogues.NewsletterCategoryIndex); };
+  for (MenuItem* entry : {&MenuForm.ShowSkyloft, &MenuForm.ShowSkyloft2}) {
+    entry->Click = [] { MainForm.Visible = true; };
+  }
   MenuForm.ExitSkyloft.Click = ExitSkyloft;
+  ConnectLocationMenu();
+  ConnectTickerMenu();
 }
 
 }  // namespace skyloft

@@ -8,7 +8,7 @@
 #include "forms/system_options_form.h"
 #include "forms/ticker_form.h"
 #include "settings/settings.h"
-#include "setup/menu.h"
+#include "setup/ticker_menu.h"
 #include "ticker/messages.h"
 #include "ticker/ticker_pages.h"
 
@@ -91,10 +91,10 @@ void TickerDisplay() {
 
 void ConnectTicker() {
   TickerForm.MouseDown = [](const MousePress& press) {
-    if (press.button == MouseButton::Left) {
-      MainForm.Visible = true;
+    if (press.button == MouseButton::Right) {
+      OpenTickerMenu();
     } else {
-      OpenMainMenu();
+      MainForm.Visible = true;
     }
   };
 }

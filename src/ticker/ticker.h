@@ -19,7 +19,7 @@ extern TickerState TickerRotation;
 // may take that place. Ends quietly on any failure.
 void TickerDisplay();
 
-// Attaches the bar's presses: the left button shows the main window, any other opens the menu.
+// Attaches the bar's presses: the left button shows the main window, any other opens its menu.
 void ConnectTicker();
 
 }  // namespace skyloft

@@ -203,15 +203,17 @@ TEST_F(TickerTest, WithoutALocationACallEndsQuietly) {
   EXPECT_EQ(Shown(), "-");
 }
 
-TEST_F(TickerTest, TheLeftButtonShowsTheMainWindowAndAnyOtherOpensTheMenu) {
-  MainForm.Visible = false;
-  TickerForm.Press({0, 0, MouseButton::Left});
-  EXPECT_TRUE(MainForm.Visible);
-  EXPECT_TRUE(Doubles.menus.empty());
+TEST_F(TickerTest, TheLeftButtonShowsTheMainWindowAndAnyOtherOpensTheBarsMenu) {
+  for (const MouseButton button : {MouseButton::Left, MouseButton::Double}) {
+    MainForm.Visible = false;
+    TickerForm.Press({0, 0, button});
+    EXPECT_TRUE(MainForm.Visible);
+    EXPECT_TRUE(Doubles.menus.empty());
+  }
   MainForm.Visible = false;
   TickerForm.Press({0, 0, MouseButton::Right});
   EXPECT_FALSE(MainForm.Visible);
-  EXPECT_EQ(Doubles.menus.size(), 1u);
+  EXPECT_EQ(Doubles.menus, std::vector<std::string>{"Ticker"});
 }
 
 }  // namespace

@@ -132,11 +132,9 @@ void MarkDot::mousePressEvent(QMouseEvent* event) {
 
 MousePress PressOf(const QMouseEvent& event) {
   const QPoint at = event.position().toPoint();
+  if (event.button() != Qt::LeftButton) return {at.x(), at.y(), MouseButton::Right};
   const bool doubled = event.type() == QEvent::MouseButtonDblClick;
-  return {at.x(), at.y(),
-          doubled                             ? MouseButton::Double
-          : event.button() == Qt::RightButton ? MouseButton::Right
-                                              : MouseButton::Left};
+  return {at.x(), at.y(), doubled ? MouseButton::Double : MouseButton::Left};
 }
 
 }  // namespace skyloft

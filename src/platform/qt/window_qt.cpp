@@ -13,6 +13,9 @@
 namespace skyloft {
 namespace {
 
+// A caption as it stands: an "&" in it is no mark of a key.
+QString CaptionOf(const MenuItem& entry) { return ToQt(entry.Caption).replace('&', "&&"); }
+
 // Fills a menu with the visible entries that stand in `container`.
 void FillMenu(QMenu& menu, const Form& form, const Control& container) {
   std::map<const Control*, QMenu*> submenus;
@@ -26,10 +29,10 @@ void FillMenu(QMenu& menu, const Form& form, const Control& container) {
     QMenu submenu;
     FillMenu(submenu, form, *entry);
     if (!submenu.isEmpty()) {
-      FillMenu(*menu.addMenu(ToQt(entry->Caption)), form, *entry);
+      FillMenu(*menu.addMenu(CaptionOf(*entry)), form, *entry);
       continue;
     }
-    QAction* action = menu.addAction(ToQt(entry->Caption));
+    QAction* action = menu.addAction(CaptionOf(*entry));
     action->setEnabled(entry->Enabled && entry->Click);
     action->setCheckable(entry->Checked);
     action->setChecked(entry->Checked);
