@@ -21,6 +21,7 @@ struct SystemFontFormControls : Form {
     Step5.Caption = "Step5: Change FONT SIZE to SMALL or DPI SETTING to 96 DPI";
     Step6.Caption = "Step6: Click on OK and folllow the Windows instructions";  // this spelling is the text
     OKButton.Caption = "OK";
+    OKButton.Default = true;
   }
 
   Label Heading{this, "Heading"};

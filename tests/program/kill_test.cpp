@@ -61,5 +61,47 @@ TEST_P(Killed, NextStartComesUpWithTheFiveTowns) {
 
 INSTANTIATE_TEST_SUITE_P(Seeds, Killed, testing::Values(1u, 2u, 3u, 4u));
 
+// The acts of a user who sets a town up, from the page of the place on.
+QByteArray ActsOfATown(const QByteArray& zip_code, const QByteArray& title) {
+  const QByteArray next = "click SetupWizardForm.NextButton\n";
+  return "type SetupWizardForm.ZipCodeInput " + zip_code + "\n" + next + next +
+         "check SetupWizardForm.TornadoWarning 1\n" + next + next + "type SetupWizardForm.TitleResult " +
+         title + "\n" + next;
+}
+
+class KilledInTheWizard : public testing::TestWithParam<unsigned> {};
+
+TEST_P(KilledInTheWizard, EitherTheOldOrTheNewTownsAreStoredWhole) {
+  const QByteArray next = "click SetupWizardForm.NextButton\n";
+  const QByteArray first = next +
+                           "type SetupWizardForm.EmailAddress1 a\ntype SetupWizardForm.EmailAddress2 a\n" +
+                           next + ActsOfATown("66044", "First") + "menu ExitSkyloft\n";
+  const QByteArray second = "menu AddLocation\n" + ActsOfATown("33131", "Second") + "menu ExitSkyloft\n";
+  std::mt19937 random(GetParam());
+  int whole_run = 0;
+  for (int i = 0; i < 6; ++i) {
+    const Folder folder;
+    ASSERT_EQ(RunInRoot(folder, {}, first).code, 0);
+    ASSERT_EQ(folder.Setting("Settings/LocationIndexMax"), "0");
+    folder.Write("script", second);
+    QElapsedTimer clock;
+    clock.start();
+    ProgramRun run(folder, InRoot(folder, {"--script", folder.Path("script")}));
+    const int moment = i == 0 ? 20000 : std::uniform_int_distribution<int>(whole_run / 2, whole_run)(random);
+    if (run.Running(moment)) kill(run.Process(), SIGKILL);
+    run.Wait();
+    if (i == 0) whole_run = static_cast<int>(clock.elapsed());
+    const bool added = folder.Setting("Settings/LocationIndexMax") == "1";
+    ASSERT_TRUE(added || i > 0) << "not killed";
+    EXPECT_EQ(folder.Setting("Location1/Title"), added ? "Second" : "") << "killed after " << moment << " ms";
+    EXPECT_EQ(folder.Setting("Location1/ZipCode"), added ? "33131" : "")
+        << "killed after " << moment << " ms";
+    EXPECT_EQ(folder.Setting("Location1/SKLTAlertEmail"), added ? "0" : "") << "the last of its values";
+    EXPECT_EQ(folder.Setting("Location0/Title"), "First");
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, KilledInTheWizard, testing::Values(1u, 2u));
+
 }  // namespace
 }  // namespace skyloft::program
