@@ -3,6 +3,7 @@
 #include "alerts/bulletins.h"
 #include "alerts/personal_alerts.h"
 #include "browser/images.h"
+#include "browser/route_map.h"
 #include "browser/selection.h"
 #include "core/chrome.h"
 #include "core/mainform.h"
@@ -16,6 +17,8 @@
 #include "forms/initializing_form.h"
 #include "forms/main_form.h"
 #include "forms/menu_form.h"
+#include "forms/route_scope_form.h"
+#include "forms/route_scope_options_form.h"
 #include "forms/setup_wizard_form.h"
 #include "forms/system_font_form.h"
 #include "forms/system_options_form.h"
@@ -38,6 +41,8 @@ Station::Station() {
   SystemOptionsForm = {};
   SystemFontForm = {};
   MenuForm = {};
+  RouteScopeForm = {};
+  RouteScopeOptionsForm = {};
   Doubles = {};
   Settings = {};
   Transport = {};
@@ -57,6 +62,7 @@ Station::Station() {
   Chrome = {};
   Catalogues = {};
   Browser = {};
+  Route = {};
   Periods = {};
   ForecastPeriod = {};
   Refresh = {};

@@ -4,6 +4,7 @@
 #include "base/values.h"
 #include "browser/images.h"
 #include "browser/products.h"
+#include "browser/route_map.h"
 #include "core/chrome.h"
 #include "core/refresh.h"
 #include "feed/catalogues.h"
@@ -25,6 +26,7 @@ void HidePoints() {
     MainForm.ImagePoints[i].Color = 0xffffff;
     MainForm.ImagePoints[i].Enabled = true;
   }
+  Route.RouteStopCount = 0;
 }
 
 void ShowChannel(const std::string& entry) {

@@ -6,10 +6,10 @@
 #include "base/values.h"
 #include "browser/buttons.h"
 #include "browser/images.h"
+#include "browser/route_map.h"
 #include "browser/selection.h"
 #include "core/mainform.h"
 #include "feed/catalogues.h"
-#include "feed/projection.h"
 #include "forms/main_form.h"
 #include "settings/location_profiles.h"
 #include "settings/settings.h"
@@ -20,7 +20,6 @@ namespace {
 constexpr double kPixelsPerLongitude = 100, kPixelsPerLatitude = 140;  // of a radar picture
 constexpr int kTrimX = 12, kTrimY = -2;
 constexpr double kRadarCentre = 310;  // pixels from the left and the top
-constexpr int kPointRadius = 3;
 
 // From the site to a location on its radar picture, pixels left and down.
 struct Offset {
@@ -98,6 +97,7 @@ void ShowView() {
   Start.LocalView = BooleanText(MainForm.NationalButton.Enabled);
   const MapPoint point = LocationOnMap(SelectedLocation());
   GetSectorID(MainForm.ProductSelection.ListIndex(), point.x, point.y);
+  PlaceRouteMarks();
   ImageFetch();
   ShowEntryTitle();
 }
@@ -136,15 +136,18 @@ void ImageZoom() {
   });
 }
 
-void PlaceLocationPoints() {
+void PlaceMark(Mark& mark, const MapPoint& point) {
   const CatalogueState& map = Catalogues;
   const MapScale metres = ScaleOfSector();
+  mark.Left = WholePixels(Divide(point.x - map.SectorXMin, metres.x) - kPointRadius);
+  mark.Top = WholePixels(Divide(map.SectorYMax - point.y, metres.y) - kPointRadius);
+}
+
+void PlaceLocationPoints() {
   for (int slot = 0; slot <= LastLocation(); ++slot) {
     Mark& mark = MainForm.ImagePoints[slot];
-    const MapPoint point = LocationOnMap(slot);
     mark.Color = 0xffffff;
-    mark.Left = WholePixels(Divide(point.x - map.SectorXMin, metres.x) - kPointRadius);
-    mark.Top = WholePixels(Divide(map.SectorYMax - point.y, metres.y) - kPointRadius);
+    PlaceMark(mark, LocationOnMap(slot));
     mark.Visible = true;
   }
 }

@@ -1,6 +1,9 @@
 // The view over a picture: zooming, the local and the national map, and the marks of the locations.
 #pragma once
 
+#include "feed/projection.h"
+#include "platform/controls.h"
+
 namespace skyloft {
 
 // Puts the view of a radar picture over the selected location: 100 pixels a degree of longitude and 140 a
@@ -10,6 +13,10 @@ void NEXRADZoom();
 // The same for a map, by the edges of its sector.
 void ImageZoom();
 
+inline constexpr int kPointRadius = 3;  // of a mark, pixels
+
+// Puts a mark to a point of the sector on show.
+void PlaceMark(Mark& mark, const MapPoint& point);
 // Marks the locations on a map.
 void PlaceLocationPoints();
 

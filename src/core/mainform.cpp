@@ -10,6 +10,7 @@
 #include "browser/images.h"
 #include "browser/player.h"
 #include "browser/point_click.h"
+#include "browser/route_map.h"
 #include "browser/selection.h"
 #include "browser/zoom.h"
 #include "core/chrome.h"
@@ -146,6 +147,7 @@ void ConnectForms() {
   ConnectImages();
   ConnectZoom();
   ConnectPointClick();
+  ConnectRouteMap();
   ConnectRefresh();
   ConnectTicker();
   ConnectMessages();

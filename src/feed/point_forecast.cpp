@@ -10,17 +10,20 @@ namespace skyloft {
 namespace {
 
 // An hour as queries write it: "3%2F7%2F2003+2%3A00%3A00+PM".
-std::string HourQuery(Date time) {
+std::string HourQuery(Date time, MidnightHour midnight) {
   const DateParts parts = PartsOf(time);
-  const int hour = parts.hour > 12 ? parts.hour - 12 : parts.hour;
+  const int hour = parts.hour == 0   ? static_cast<int>(midnight)
+                   : parts.hour > 12 ? parts.hour - 12
+                                     : parts.hour;
   return std::to_string(parts.month) + "%2F" + std::to_string(parts.day) + "%2F" +
          std::to_string(parts.year) + "+" + std::to_string(hour) + "%3A00%3A00+" + Format(time, "AM/PM");
 }
 
 }  // namespace
 
-PointForecast QueryPointForecast(const std::string& latitude, const std::string& longitude, Date time) {
-  const std::string hour = HourQuery(time);
+PointForecast QueryPointForecast(const std::string& latitude, const std::string& longitude, Date time,
+                                 MidnightHour midnight) {
+  const std::string hour = HourQuery(time, midnight);
   PointForecast out;
   QueryServer(HostTable.forecastserver + "forecast.asp?lat=" + latitude + "&long=" + longitude +
                   "&st=" + hour + "&et=" + hour + "&t=xml",

@@ -13,7 +13,11 @@ struct PointForecast {
   std::string Ut, Lt, Desc, Ic, Tf, Df, Rh, At, Wd, Ws, Rn, Sn;  // Wd in degrees, Ic a file name
 };
 
-// Asks for the hour in which a time falls, at degrees given as texts. Hour 0 goes out as "0 AM".
-PointForecast QueryPointForecast(const std::string& latitude, const std::string& longitude, Date time);
+// How the hour after midnight goes out: "0 AM", or "12 AM" by the clock of twelve.
+enum class MidnightHour { Zero = 0, Twelve = 12 };
+
+// Asks for the hour in which a time falls, at degrees given as texts.
+PointForecast QueryPointForecast(const std::string& latitude, const std::string& longitude, Date time,
+                                 MidnightHour midnight = MidnightHour::Zero);
 
 }  // namespace skyloft

@@ -3,6 +3,8 @@
 #include "forms/initializing_form.h"
 #include "forms/main_form.h"
 #include "forms/menu_form.h"
+#include "forms/route_scope_form.h"
+#include "forms/route_scope_options_form.h"
 #include "forms/setup_wizard_form.h"
 #include "forms/system_font_form.h"
 #include "forms/system_options_form.h"
@@ -17,11 +19,13 @@ SetupWizardFormControls SetupWizardForm;
 SystemOptionsFormControls SystemOptionsForm;
 SystemFontFormControls SystemFontForm;
 MenuFormControls MenuForm;
+RouteScopeFormControls RouteScopeForm;
+RouteScopeOptionsFormControls RouteScopeOptionsForm;
 
 const std::vector<Form*>& AllForms() {
   static const std::vector<Form*> forms = {&MainForm,        &InitializingForm,  &TickerForm,
                                            &SetupWizardForm, &SystemOptionsForm, &SystemFontForm,
-                                           &MenuForm};
+                                           &MenuForm,        &RouteScopeForm,    &RouteScopeOptionsForm};
   return forms;
 }
 

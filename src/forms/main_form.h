@@ -12,9 +12,9 @@ struct MainFormControls : Form {
     ExStyle = 0x40000;  // in the taskbar
     TimeLabel.Caption = "Time";
     Channel.Locked = true;
-    for (Control* hidden :
-         {static_cast<Control*>(&Display2), static_cast<Control*>(&Legend), static_cast<Control*>(&Sponsor0),
-          static_cast<Control*>(&Sponsor1), static_cast<Control*>(&Sponsor2)}) {
+    for (Control* hidden : {static_cast<Control*>(&DepartureSelection), static_cast<Control*>(&Display2),
+                            static_cast<Control*>(&Legend), static_cast<Control*>(&Sponsor0),
+                            static_cast<Control*>(&Sponsor1), static_cast<Control*>(&Sponsor2)}) {
       hidden->Visible = false;
     }
     for (int i = 0; i < ImagePoints.Size(); ++i) ImagePoints[i].Visible = false;
@@ -68,6 +68,7 @@ struct MainFormControls : Form {
   HtmlDisplay Sponsor2{this, "Sponsor2"};
 
   // Without a place in the window.
+  ListControl DepartureSelection{this, "DepartureSelection"};  // never shown, filled or asked
   ControlArray<TrayIcon, 3> SysTray{this, "SysTray"};
   Timer Clock{this, "Clock", 1000};
   Timer UpdateTimer{this, "UpdateTimer", 30000};

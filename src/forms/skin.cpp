@@ -205,6 +205,23 @@ constexpr PlaceRow kSkin[] = {
     {"SystemOptionsForm.AutoConnect", 20, 34, 360, 22},
     {"SystemOptionsForm.SponsorBanner", 10, 290, 400, 40},
     {"SystemOptionsForm.OKButton", 310, 340, 100, 30},
+
+    {"RouteScopeForm", 0, 0, 800, 520},
+    {"RouteScopeForm.RouteScopeBrowser", 10, 10, 780, 456},
+    {"RouteScopeForm.Label1", 14, 481, 96, 22},
+    {"RouteScopeForm.Label3", 112, 481, 110, 22},
+    {"RouteScopeForm.Label2", 240, 481, 74, 22},
+    {"RouteScopeForm.Label4", 316, 481, 110, 22},
+    {"RouteScopeForm.Print", 582, 478, 100, 30},
+    {"RouteScopeForm.Done", 690, 478, 100, 30},
+
+    {"RouteScopeOptionsForm", 0, 0, 300, 170},
+    {"RouteScopeOptionsForm.Heading", 20, 14, 260, 24},
+    {"RouteScopeOptionsForm.HoursLabel", 20, 54, 150, 24},
+    {"RouteScopeOptionsForm.StopHours", 180, 54, 100, 24},
+    {"RouteScopeOptionsForm.MinutesLabel", 20, 88, 150, 24},
+    {"RouteScopeOptionsForm.StopMinutes", 180, 88, 100, 24},
+    {"RouteScopeOptionsForm.OK", 180, 128, 100, 30},
 };
 
 void Place(Control& control, const PlaceRow& row) {

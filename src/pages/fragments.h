@@ -13,4 +13,14 @@ inline void Append(std::string& page, std::initializer_list<std::string_view> fr
   for (const std::string_view fragment : fragments) page += fragment;
 }
 
+// The lines of a page that is written to a file.
+inline std::string Lines(std::initializer_list<std::string_view> lines) {
+  std::string text;
+  for (const std::string_view line : lines) {
+    text += line;
+    text += "\r\n";
+  }
+  return text;
+}
+
 }  // namespace skyloft

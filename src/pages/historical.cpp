@@ -5,6 +5,7 @@
 #include "base/values.h"
 #include "feed/addresses.h"
 #include "feed/observations.h"
+#include "pages/fragments.h"
 #include "platform/files.h"
 #include "settings/settings.h"
 #include "weather/sky.h"
@@ -34,12 +35,6 @@ const Column kColumns[] = {
      }},
     {"46", "Vis<br>(mi)", "#FFFFFF", [](const Readings& readings, int row) { return readings.Vi[row]; }},
 };
-
-std::string Lines(std::initializer_list<std::string> lines) {
-  std::string text;
-  for (const std::string& line : lines) text += line + "\r\n";
-  return text;
-}
 
 // The empty first table is part of the page.
 std::string PageHead() {

@@ -182,6 +182,7 @@ void TabStrip::Select(int tab) {
 void Mark::Describe(PropertyList& out) const {
   Control::Describe(out);
   out.emplace_back("color", double(Color));
+  out.emplace_back("tag", Tag.Get());
 }
 
 #define SKYLOFT_ACCEPT(Kind) \

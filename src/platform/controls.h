@@ -210,6 +210,7 @@ class Mark : public Control {
   void Describe(PropertyList& out) const override;
   void Accept(ControlVisitor& visitor) override;
   Property<int> Color{this, 0xffffff};
+  Property<std::string> Tag{this};  // what the mark stands for
   MouseEvent MouseDown;
 };
 

@@ -20,6 +20,8 @@ void StartWindowDrag(Form& form);
 void ShowSystemMenu(Form& form, int x, int y);
 // Brings a visible window forward and gives it the focus.
 void ActivateWindow(Form& form);
+// Shows a window and returns when it is hidden again; events go on, but the user reaches no other window.
+void ShowModal(Form& form);
 // Pops up a menu at the mouse: the entries of `menu`, with their submenus.
 void PopUpMenu(Form& form, MenuItem& menu);
 

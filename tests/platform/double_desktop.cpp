@@ -1,5 +1,6 @@
 // The desktop: windows, boxes, shell, sound, speech, screen and process.
 #include "platform/doubles.h"
+#include "platform/print.h"
 #include "platform/process.h"
 #include "platform/shell.h"
 #include "platform/sound.h"
@@ -17,6 +18,11 @@ void ActivateWindow(Form& form) {
   Doubles.activated.push_back(form.Name());
   Doubles.activated_on_top = form.TopMost();
 }
+void ShowModal(Form& form) {
+  form.Visible = true;
+  Doubles.modal_forms.push_back(form.Name());
+  if (Doubles.during_modal) Doubles.during_modal();
+}
 void PopUpMenu(Form&, MenuItem& menu) { Doubles.menus.push_back(menu.Name()); }
 
 BoxAnswer ShowBox(BoxKind kind, const std::string& text) {
@@ -25,6 +31,10 @@ BoxAnswer ShowBox(BoxKind kind, const std::string& text) {
   const BoxAnswer answer = Doubles.answers.front();
   Doubles.answers.pop_front();
   return answer;
+}
+
+void PrintPage(const std::string& path, const std::string& title) {
+  Doubles.printed.emplace_back(path, title);
 }
 
 void OpenLink(const std::string& address) { Doubles.links.push_back(address); }

@@ -79,6 +79,9 @@ struct DoublesState {
   int drags = 0;
   std::vector<std::string> menus;
   std::vector<std::string> system_menus;
+  std::vector<std::string> modal_forms;                      // shown by ShowModal
+  std::function<void()> during_modal;                        // what the user does there
+  std::vector<std::pair<std::string, std::string>> printed;  // file and title
   std::vector<std::string> activated;
   bool activated_on_top = false;  // whether the window activated last was above all others then
   std::vector<std::pair<BoxKind, std::string>> boxes;

@@ -26,6 +26,7 @@ constexpr struct {
     {"--dpi", "N", "the display's dots per inch"},
     {"--snapshot", "DIR",
      "when start-up is over, save pictures and the state of all windows to DIR, then end"},
+    {"--print", "FILE", "print into FILE, a PDF, without asking for a printer"},
     {"--script", "FILE", "drive the program by the commands of FILE, one a line"},
     {"--help", "", "show these options"},
 };
@@ -44,6 +45,7 @@ bool Take(AppOptions& options, std::string_view name, const std::string& value) 
   if (name == "--now") options.now = value;
   if (name == "--zone") options.zone = value;
   if (name == "--snapshot") options.snapshot = value;
+  if (name == "--print") options.print = value;
   if (name == "--script") options.script = value;
   if (name == "--help") options.help = true;
   if (name == "--now") return TryReadDate(value, date);

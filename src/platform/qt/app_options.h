@@ -15,6 +15,7 @@ struct AppOptions {
   std::string zone;       // name of the computer's time zone; "" for its own
   int dots_per_inch = 0;  // 0 for the display's own
   std::string snapshot;   // folder for pictures of all windows; "" for none
+  std::string print;      // file that prints go to; "" for a printer that the user chooses
   std::string script;     // file of commands; "" for none
   bool help = false;
 };

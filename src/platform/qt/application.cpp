@@ -26,6 +26,7 @@
 #include "platform/qt/drive.h"
 #include "platform/qt/feed_process.h"
 #include "platform/qt/http_qt.h"
+#include "platform/qt/print_qt.h"
 #include "platform/qt/process_qt.h"
 #include "platform/qt/registry_qt.h"
 #include "platform/qt/screen_qt.h"
@@ -159,6 +160,8 @@ int RunApplication(int argc, char** argv, const AppOptions& options) {
   WatchEnd(application);
   AnswerLaterStarts(ComeForward);
   if (!options.script.empty() || !options.snapshot.empty()) AnswerBoxesByScript();
+
+  if (!options.print.empty()) PrintIntoFile(options.print);
 
   AtEnd(SyncStore);
   ApplySkin();

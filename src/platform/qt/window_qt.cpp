@@ -2,6 +2,7 @@
 
 #include <map>
 
+#include <QCoreApplication>
 #include <QCursor>
 #include <QMenu>
 #include <QWindow>
@@ -77,6 +78,12 @@ void ActivateWindow(Form& form) {
   FormWindow& window = Display::Get().WindowOf(form);
   window.raise();
   window.activateWindow();
+}
+
+void ShowModal(Form& form) {
+  Display::Get().WindowOf(form).setWindowModality(Qt::ApplicationModal);
+  form.Visible = true;
+  while (form.Visible) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
 // The desktop's own menu of a window cannot be opened from here on every desktop; ours offers what it would.

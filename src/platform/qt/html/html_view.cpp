@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPagedPaintDevice>
 #include <QPainter>
 #include <QPointer>
 #include <QTimer>
@@ -167,6 +168,35 @@ void HtmlView::paintEvent(QPaintEvent*) {
     painter.fillRect(width() - kBarWidth, 0, kBarWidth, height(), QColor(0x0d, 0x1b, 0x36));
     painter.fillRect(handle.adjusted(1, 1, -1, -1), QColor(0x5b, 0x9b, 0xff));
   }
+}
+
+// Where a page ends that begins at `top`: below the last row that has room, all in pixels of the document.
+int HtmlView::PageEnd(int top, int height) const {
+  const int last = std::min(top + height, document_->height());
+  if (last == document_->height()) return last;
+  int end = top;
+  for (const auto& cell : document_->root()->select_all("td")) {
+    const int bottom = cell->get_placement().bottom();
+    if (bottom <= last) end = std::max(end, bottom);
+  }
+  return end > top ? end : last;
+}
+
+bool HtmlView::PrintTo(QPagedPaintDevice& printer) {
+  QPainter painter(&printer);
+  if (!painter.isActive() || !document_) return painter.isActive();
+  const double natural = printer.logicalDpiX() / 96.0;
+  const double scale = std::min(natural, double(printer.width()) / document_->width());
+  const int height = static_cast<int>(printer.height() / scale);
+  painter.scale(scale, scale);
+  for (int top = 0, end = 0; top < document_->height(); top = end) {
+    end = PageEnd(top, height);
+    if (top > 0) printer.newPage();
+    const QRect page(0, 0, document_->width(), end - top);
+    painter.setClipRect(page);
+    container_->Paint(*document_, painter, {0, -top}, page);
+  }
+  return true;
 }
 
 void HtmlView::resizeEvent(QResizeEvent*) {

@@ -10,6 +10,8 @@
 
 #include "platform/qt/html/html_services.h"
 
+class QPagedPaintDevice;
+
 namespace litehtml {
 class document;
 }
@@ -34,6 +36,9 @@ class HtmlView : public QWidget {
   std::function<void()> secondary_clicked;
   // Whether nothing of the present document is still being fetched or waits to be shown.
   bool Idle() const;
+  // Draws the whole document on the pages of a printer, as wide as it fits but never larger than on a screen
+  // of 96 dots per inch; a page ends between the rows of its tables. False when the printer takes no drawing.
+  bool PrintTo(QPagedPaintDevice& printer);
   // Of the whole document, in pixels; 0 by 0 before the first.
   QSize DocumentSize() const;
 
@@ -57,6 +62,7 @@ class HtmlView : public QWidget {
   void Post(bool rebuild);
   void RunPosted();
   void ScrollTo(int y);
+  int PageEnd(int top, int height) const;
   int MaxScroll() const;
   QRect BarRect() const;
 
