@@ -161,4 +161,20 @@ void XDisplay::Click(const QPoint& place) const {
   ReleaseButton(XCB_BUTTON_INDEX_1);
 }
 
+void XDisplay::TapKey(xcb_keysym_t symbol) const {
+  const xcb_setup_t* const setup = xcb_get_setup(connection_);
+  const auto count = static_cast<std::uint8_t>(setup->max_keycode - setup->min_keycode + 1);
+  const auto mapping = Take(xcb_get_keyboard_mapping_reply(
+      connection_, xcb_get_keyboard_mapping(connection_, setup->min_keycode, count), nullptr));
+  if (!mapping) return;
+  const xcb_keysym_t* const symbols = xcb_get_keyboard_mapping_keysyms(mapping.get());
+  for (int key = 0; key < count; ++key) {
+    if (symbols[key * mapping->keysyms_per_keycode] != symbol) continue;
+    const auto code = static_cast<std::uint8_t>(setup->min_keycode + key);
+    Fake(XCB_KEY_PRESS, code, {});
+    Fake(XCB_KEY_RELEASE, code, {});
+    return;
+  }
+}
+
 }  // namespace skyloft

@@ -47,6 +47,8 @@ class XDisplay {
   void PressButton(std::uint8_t button) const;
   void ReleaseButton(std::uint8_t button) const;
   void Click(const QPoint& place) const;
+  // A key by its symbol, down and up.
+  void TapKey(xcb_keysym_t symbol) const;
 
  private:
   bool Connect();

@@ -42,6 +42,7 @@ bool IsPointerAtScale() { return MainForm.Display1.Zoom == 1.0 && MainForm.Displ
 GeoPoint PlaceAt(int x, int y) {
   const CatalogueState& map = Catalogues;
   const MapScale metres = ScaleOfSector();
+  // The two directions are meant to differ in their sign of the origin.
   const int pixel_x = x - MainForm.Display1.ViewX;
   const int pixel_y = y + MainForm.Display1.ViewY;
   const GeoPoint place = MapToLocation(RoundHalfEven(map.SectorXMin + metres.x * pixel_x, 0),

@@ -196,6 +196,25 @@ TEST_F(WindowOnADesktop, CloseRequestIsTheFormsMatterAlone) {
   EXPECT_TRUE(WindowOf(form_).isVisible());
 }
 
+TEST_F(WindowOnADesktop, AModalOneKeepsTheUserOutOfTheOthersUntilItIsHidden) {
+  BareForm& modal = *new BareForm();
+  modal.Left = 600 * 15;
+  int pressed = 0, pressed_meanwhile = -1;
+  form_.MouseDown = [&](const MousePress&) { ++pressed; };
+  const auto press = [] { Screen().Click({250, 200}); };
+  QTimer::singleShot(500, press);
+  QTimer::singleShot(1000, [&] {
+    pressed_meanwhile = pressed;
+    EXPECT_TRUE(WindowOf(modal).isVisible());
+    modal.Visible = false;
+  });
+  ShowModal(modal);
+  EXPECT_EQ(pressed_meanwhile, 0);
+  EXPECT_TRUE(Await([&] { return !WindowOf(modal).isVisible(); }));
+  press();
+  EXPECT_TRUE(Await([&] { return pressed == 1; }));
+}
+
 class DragButton : public WindowOnADesktop, public testing::WithParamInterface<std::uint8_t> {};
 
 TEST_P(DragButton, MovesTheWindowByItsBody) {
