@@ -26,7 +26,7 @@ void TakeBar(const std::string& text, const MessageLook& look, Warning warning) 
   ClearStrip();
   const std::string sound =
       warning == Warning::Sounding ? Settings.InstallPath + "\\wav\\warning.wav" : std::string();
-  TickerForm.Ticker.Document = TickerScrollPage(text, sound, "", look.background, look.font, "18");
+  TickerForm.Ticker.Load(TickerScrollPage(text, sound, "", look.background, look.font, "18"));
   TickerForm.Visible = true;
 }
 

@@ -18,7 +18,8 @@ inline constexpr MessageLook kPersonalReplayLook{"FFFF00", "000000"};
 
 enum class Warning { Silent, Sounding };
 
-// Runs a text over the bar and shows it. The strip of the main window is cleared.
+// Runs a text over the bar from its beginning, also where it stands there already, and shows it. The strip of
+// the main window is cleared.
 void TakeBar(const std::string& text, const MessageLook& look, Warning warning);
 
 // The user has stopped the message: the rotation takes over at once, or the bar goes where it is not wanted.

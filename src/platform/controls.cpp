@@ -140,6 +140,12 @@ void HtmlDisplay::Press() {
   if (Enabled) Fire(Click);
 }
 
+void HtmlDisplay::Load(const std::string& document) {
+  Document = document;
+  ++visits_;
+  MarkDirty();
+}
+
 void HtmlDisplay::Navigate(const std::string& address) {
   Document = "";
   address_ = address;

@@ -152,11 +152,13 @@ class HtmlDisplay : public Control {
   void Accept(ControlVisitor& visitor) override;
   void Press();                          // act
   Property<std::string> Document{this};  // shown unless it is ""
+  // Shows a document from its beginning, with its sound, also when it is the one on show.
+  void Load(const std::string& document);
   // Shows the page at an address instead: a file by the program's own path, or http. It is read anew each
   // time; what cannot be read shows nothing.
   void Navigate(const std::string& address);
   const std::string& Address() const { return address_; }
-  int Visits() const { return visits_; }  // how often Navigate was called
+  int Visits() const { return visits_; }  // how often Load and Navigate were called
   Event Click;
   Event SecondaryClick;  // with another button than the left
 

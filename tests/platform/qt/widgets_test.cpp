@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QMouseEvent>
+#include <QPointer>
 
 #include "forms/forms.h"
 #include "forms/main_form.h"
@@ -179,6 +180,23 @@ TEST_F(MainWindow, ARectangleByTheMouseZoomsIntoTheMap) {
   EXPECT_EQ(MainForm.Display1.ViewX, 198);
   EXPECT_EQ(MainForm.Display1.ViewY, 100);
   EXPECT_NEAR(MainForm.Display1.Zoom, 415.0 / 200, 1e-9);
+}
+
+TEST_F(MainWindow, ADocumentThatIsLoadedAgainStartsFromItsBeginning) {
+  const std::string page = "<applet><param name='text' value='Take cover'></applet>";
+  HtmlDisplay& strip = MainForm.Sponsor2;
+  strip.Load(page);
+  Display::Get().ShowDirty();
+  const QPointer<QWidget> scroller = WidgetOf(strip).findChild<QWidget*>();
+  ASSERT_TRUE(scroller);
+  strip.Document = page;
+  strip.MarkDirty();
+  Display::Get().ShowDirty();
+  EXPECT_TRUE(scroller) << "what is on show runs on";
+  strip.Load(page);
+  Display::Get().ShowDirty();
+  EXPECT_FALSE(scroller);
+  EXPECT_TRUE(WidgetOf(strip).findChild<QWidget*>()) << "a fresh one";
 }
 
 TEST_F(MainWindow, ThePositionBarIsBlueWhileStepsAreTakenAndGreenWhileItPlays) {
