@@ -1,5 +1,6 @@
 #include "platform/qt/mail_qt.h"
 
+#include <arpa/inet.h>
 #include <curl/curl.h>
 
 #include <memory>
@@ -93,7 +94,7 @@ std::shared_ptr<Delivery> Prepare(const MailRelay& relay, const Mail& mail, int 
   auto delivery = std::make_shared<Delivery>();
   delivery->message = MailMessage(mail, ToMoment(Now()));
   delivery->relay = url.toEncoded().toStdString();
-  delivery->near = url.host() == "localhost" || url.host() == "::1" || url.host().startsWith("127.");
+  delivery->near = IsThisComputer(url.host().toStdString());
   delivery->user = ToUtf8(relay.user);
   delivery->password = ToUtf8(relay.password);
   delivery->from = '<' + mail.from + '>';
@@ -103,6 +104,12 @@ std::shared_ptr<Delivery> Prepare(const MailRelay& relay, const Mail& mail, int 
 }
 
 }  // namespace
+
+bool IsThisComputer(const std::string& host) {
+  in_addr address{};
+  const bool is_address = inet_pton(AF_INET, host.c_str(), &address) == 1;
+  return (is_address && ntohl(address.s_addr) >> 24 == 127) || host == "localhost" || host == "::1";
+}
 
 void SendMail(const MailRelay& relay, const Mail& mail) { SendMailWithin(relay, mail, kPatience); }
 

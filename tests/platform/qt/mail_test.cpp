@@ -142,6 +142,15 @@ TEST_F(RealMail, AsksForEncryptionWhereItIsOfferedAndGoesOnWithoutIt) {
   EXPECT_EQ(sink.Messages().size(), 1u);
 }
 
+TEST(MailRelays, OnThisComputerAreLocalhostAndTheAddressesOfTheLoopback) {
+  for (const char* host : {"localhost", "127.0.0.1", "127.1.2.3", "::1"})
+    EXPECT_TRUE(IsThisComputer(host)) << host;
+  for (const char* host : {"127.0.0.1.example.com", "127.example.com", "localhost.example.com", "128.0.0.1",
+                           "10.127.0.1", "::2", ""}) {
+    EXPECT_FALSE(IsThisComputer(host)) << host;
+  }
+}
+
 TEST_F(RealMail, TellsTheRelayWhoAsks) {
   const SmtpSink sink("auth");
   SendMailWithin({sink.Address(), "us\xE9r", "secret"}, SampleMail(), 10000);
