@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cstdint>
 
 #include "base/guard.h"
 #include "base/text.h"
@@ -29,10 +30,10 @@ std::string_view Cut(std::string_view& text, char end) {
 
 Date ReadMoment(std::string_view text, Date now) {
   if (!text.starts_with('+') && !text.starts_with('-')) return ReadDate(text);
-  int minutes = 0;
+  unsigned minutes = 0;  // a second sign is no number
   const auto read = std::from_chars(text.data() + 1, text.data() + text.size(), minutes);
   if (read.ec != std::errc() || read.ptr != text.data() + text.size()) throw RuntimeError("no minutes");
-  return DateAdd(DateUnit::Minutes, text.front() == '-' ? -minutes : minutes, now);
+  return DateAdd(DateUnit::Minutes, text.front() == '-' ? -std::int64_t{minutes} : minutes, now);
 }
 
 std::string ReadText(std::string_view written) {

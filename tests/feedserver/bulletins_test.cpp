@@ -106,7 +106,8 @@ TEST(Bulletins, LineThatIsNoneRaisesAndIsNamed) {
   for (const char* line :
        {"x", "* | TOR | -5 | +45", " | TOR | -5 | +45 | x", "* | TORN | -5 | +45 | x", "* | | -5 | +45 | x",
         "* | TOR | 5x | +45 | x", "* | TOR | -5 | +x | x", "* | TOR | -5 | + | x", "* | TOR | noon | +45 | x",
-        "* | TOR | -5 | +99999999999 | x"}) {
+        "* | TOR | -5 | +99999999999 | x", "* | TOR | -5 | +-5 | x", "* | TOR | --5 | +45 | x",
+        "* | TOR | --2147483648 | +45 | x"}) {
     try {
       ReadBulletins(std::string("* | TOR | -5 | +45 | fine\n") + line + "\n", kNow);
       ADD_FAILURE() << line;
