@@ -323,6 +323,55 @@ TEST_F(BulletinsTest, AnEmptyReplyOrOneThatIsNoXmlReadsAsNoneSoThatTheSameBullet
   }
 }
 
+TEST_F(BulletinsTest, WhatIsToldAnewRunsFromItsBeginningWithItsSoundAlsoWhereItStillStandsOnAHiddenBar) {
+  WishAll(0);
+  Wish(0, {ProfileRow::NWSAlertAudio});
+  SystemOptionsForm.ShowTicker.Checked = false;
+  for (const int loads : {1, 2}) {
+    Check({{"10000", "TOR", "TEXT"}});
+    EXPECT_EQ(TickerForm.Ticker.Visits(), loads);
+    EXPECT_EQ(Bar(), BulletinPage("TEXT", kWarningSound));
+    Tick(4);
+    EXPECT_FALSE(TickerForm.Visible);
+    Check({});
+  }
+}
+
+TEST_F(BulletinsTest, ANewTextBeginsItsTimeAnew) {
+  WishAll(0);
+  Bulletins.NWSAlertElapsed = 90;
+  Bulletins.NWSAlertDuration = 240;
+  Check({{"10000", "TOR", "text"}});
+  EXPECT_EQ(Bulletins.NWSAlertElapsed, 0);
+  EXPECT_EQ(Bulletins.NWSAlertDuration, 120);
+}
+
+TEST_F(BulletinsTest, AReplyThatComesInsideAReplayLeavesItOnTheBarUnlessItsTextIsAnother) {
+  WishAll(0);
+  Check({{"10000", "TOR", "one"}});
+  Bulletins.NWSAlertActive = 0;
+  Doubles.during_fetch = [](const std::string&) { MainForm.TornadoButton.Press(); };
+  Check({{"10000", "TOR", "one"}});
+  EXPECT_EQ(Bar(), BulletinPage("one"));
+  EXPECT_EQ(Bulletins.NWSAlertActive, 1);
+  EXPECT_EQ(State(MainForm.TornadoButton), "tornados.gif on") << "as the check leaves it";
+  Bulletins.NWSAlertActive = 0;
+  Check({{"10000", "TOR", "two"}});
+  EXPECT_EQ(Bar(), BulletinPage("TWO"));
+  EXPECT_EQ(State(MainForm.TornadoButton), "tornado.gif on");
+}
+
+TEST_F(BulletinsTest, TheEndOfABulletinHidesAnUnwantedBarAlsoUnderAPersonalMessage) {
+  SystemOptionsForm.ShowTicker.Checked = false;
+  Bulletins.NWSAlertActive = PersonalAlertsState.PersonalAlertActive = 1;
+  Bulletins.NWSAlertDuration = 30;
+  PersonalAlertsState.PersonalAlertDuration = 60;
+  TickerForm.Visible = true;
+  Tick();
+  EXPECT_FALSE(TickerForm.Visible);
+  EXPECT_EQ(PersonalAlertsState.PersonalAlertActive, 1);
+}
+
 TEST_F(BulletinsTest, AListShorterThanTheTextsEndsTheCheckAtItsFirstMissingElement) {
   WishAll(0);
   for (const char* tag : {"pc", "Type", "ET"}) {
@@ -410,6 +459,43 @@ TEST_F(BulletinsTest, AClickStopsTheMessageAndSetsTheClickedButtonAloneWaiting) 
     EXPECT_EQ(TickerForm.Visible, wanted);
     EXPECT_EQ(Bar() == TickerCurrentPage(), wanted) << "the rotation takes over at once";
   }
+}
+
+TEST_F(BulletinsTest, EachButtonStopsTheMessageOfAll) {
+  WishAll(0);
+  const std::pair<ImageButton*, const char*> clicks[] = {
+      {&MainForm.TornadoButton, "tornados.gif on, tstorm.gif on, flood.gif on"},
+      {&MainForm.ThunderstormButton, "tornado.gif on, tstorms.gif on, flood.gif on"},
+      {&MainForm.FloodButton, "tornado.gif on, tstorm.gif on, floods.gif on"}};
+  for (const auto& [button, buttons] : clicks) {
+    Bulletins = {};
+    Check({{"10000", "TOR", "a"}, {"10000", "SVR", "b"}, {"10000", "FFW", "c"}});
+    button->Press();
+    EXPECT_EQ(Bulletins.NWSAlertActive, 0);
+    EXPECT_EQ(Buttons(), buttons);
+  }
+}
+
+TEST_F(BulletinsTest, AClickOnAButtonWithoutABulletinCannotHappen) {
+  WishAll(0);
+  Check({{"10000", "TOR", "text"}});
+  Bulletins.NWSAlertActive = 0;
+  Check({{"10000", "TOR", "text"}});
+  MainForm.FloodButton.Press();
+  EXPECT_EQ(Bulletins.NWSAlertActive, 0) << "it is disabled";
+}
+
+TEST_F(BulletinsTest, AMessageOfTheServerThatAClickBringsUpTakesNoPresses) {
+  WishAll(0);
+  Check({{"10000", "TOR", "text"}});
+  MessageSet& set = Messages.Sets[MessagePlace::Ticker];
+  set.Entries[0] = {"3/1/2003", "3/31/2003", "60", "message", "1"};
+  set.MessageIndexMax = 0;
+  TickerRotation.TickerPage = 4;
+  TickerRotation.TickerLocationIndex = 1;
+  MainForm.TornadoButton.Press();
+  EXPECT_EQ(Bar(), "message");
+  EXPECT_FALSE(TickerForm.Ticker.Enabled);
 }
 
 TEST_F(BulletinsTest, AClickReplaysTheBucketAsItStandsWithoutSoundForItsOwnTime) {

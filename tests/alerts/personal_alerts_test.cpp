@@ -206,6 +206,18 @@ TEST_F(PersonalAlertsTest, TheMessageOpensForEachLocationAndTheReplayOnce) {
   EXPECT_EQ(Button(), "personal.gif on");
 }
 
+TEST_F(PersonalAlertsTest, ARunTellsTheSameFindingsAgainFromTheirBeginningForTheirWholeTime) {
+  Limit(0, ProfileRow::MaximumTemperature, "40");
+  Limit(0, ProfileRow::MinimumTemperature, "40");
+  for (const int loads : {1, 2}) {
+    PersonalAlerts();
+    EXPECT_EQ(TickerForm.Ticker.Visits(), loads);
+    EXPECT_EQ(PersonalAlertsState.PersonalAlertElapsed, 0);
+    MainForm.UpdateTimer.Elapse();
+    EXPECT_EQ(PersonalAlertsState.PersonalAlertActive, 1) << "30 of 60 seconds";
+  }
+}
+
 TEST_F(PersonalAlertsTest, ALocationWithoutAlertsIsNotLookedAt) {
   Limit(0, ProfileRow::MaximumTemperature, "40");
   LocationProfile[ProfileRow::SKLTPersonalAlert][0] = "0";

@@ -178,6 +178,7 @@ TEST_F(RefreshTest, ANewModelRunsTheWholeChainInItsOrder) {
   EXPECT_EQ(ForecastPeriod[0][0].Temperature, "40 F");
   EXPECT_NE(Almanac.Sunrise[0], "");
   EXPECT_EQ(MainForm.CategorySelection.Items(), std::vector<std::string>{"Planners"});
+  EXPECT_EQ(PersonalAlertsState.PersonalAlertText, "Skyloft Alert: ");
 }
 
 TEST_F(RefreshTest, WhileThePlayerRunsANewModelLeavesTheCategoryList) {

@@ -6,6 +6,7 @@
 #include "forms/main_form.h"
 #include "forms/menu_form.h"
 #include "forms/system_options_form.h"
+#include "forms/ticker_form.h"
 
 namespace skyloft {
 namespace {
@@ -228,6 +229,11 @@ TEST(Skin, TheToldSizesHold) {
   EXPECT_GE(MainForm.Display1.Height, 415);
   EXPECT_EQ(MainForm.Sponsor2.Width, 740);
   EXPECT_EQ(MainForm.Sponsor2.Height, 15);
+  EXPECT_EQ(TickerForm.Sponsor4.Left, 0);
+  EXPECT_EQ(TickerForm.Sponsor4.Width, 90);
+  EXPECT_EQ(TickerForm.Sponsor4.Height, 35);
+  EXPECT_EQ(TickerForm.Ticker.Left, 88);
+  EXPECT_EQ(TickerForm.Ticker.Height, 35);
 }
 
 TEST(Controls, APositionOutsideTheBarIsBroughtToItsNearerEnd) {
@@ -254,6 +260,21 @@ TEST(Controls, ADocumentTakesThePlaceOfAnAddressAndEachVisitShowsItAnew) {
   TakeDirtyControls();
   page.Document = "one";
   EXPECT_TRUE(AnyDirtyControl()) << "the same document as before the visits";
+  MainForm = {};
+}
+
+TEST(Controls, ADocumentIsLoadedAnewAlsoWhenItIsTheOneOnShow) {
+  HtmlDisplay& page = MainForm.Display2;
+  page.Document = "one";
+  TakeDirtyControls();
+  page.Document = "one";
+  EXPECT_FALSE(AnyDirtyControl());
+  for (const int visits : {1, 2}) {
+    page.Load("one");
+    EXPECT_EQ(page.Document.Get(), "one");
+    EXPECT_EQ(page.Visits(), visits);
+    EXPECT_EQ(TakeDirtyControls(), std::vector<Control*>{&page});
+  }
   MainForm = {};
 }
 

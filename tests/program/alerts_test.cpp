@@ -121,6 +121,17 @@ TEST_F(AlertsTest, AFindingOfTheUsersOwnIsToldUnderABulletinByItsButtonAndMail) 
   EXPECT_EQ(sink.Messages().size(), 2u);
 }
 
+TEST_F(AlertsTest, ABulletinStillInForceIsToldAndMailedAgainByTheNextStart) {
+  const SmtpSink sink;
+  SetUp(sink);
+  for (const size_t mails : {1u, 2u}) {
+    const Ending ending = Run("66044 | FFW | -5 | +60 | Water!\n", Look("start") + "menu ExitSkyloft\n");
+    ASSERT_EQ(ending.code, 0) << ending.errors;
+    EXPECT_EQ(Shown("start"), "bar: tornadod.gif (off) tstormd.gif (off) flood.gif");
+    EXPECT_EQ(sink.Messages().size(), mails);
+  }
+}
+
 // The bulletin that starts with the program finds a mail server in trouble.
 class MailFault : public AlertsTest, public testing::WithParamInterface<const char*> {};
 

@@ -160,6 +160,42 @@ TEST_F(WizardFinish, AnEditKeepsTheSlotAndThePlaceAndFetchesNothingButTheAlerts)
   EXPECT_FALSE(SetupWizardForm.Visible);
 }
 
+TEST_F(WizardFinish, PersonalAlertsAreCheckedAfterEachKindOfFinish) {
+  const auto checked = [] {
+    return std::exchange(PersonalAlertsState.PersonalAlertText, "") == "Skyloft Alert: ";
+  };
+  AddSecond();
+  EXPECT_TRUE(checked()) << "a new location";
+  EditLocation(0);
+  Done("Ranch");
+  EXPECT_TRUE(checked()) << "an edit that fetches its place anew";
+  AddLocation(1);
+  SetupWizardForm.CancelButton.Press();
+  EditLocation(0);
+  Done("Home");
+  EXPECT_TRUE(checked()) << "an edit";
+}
+
+TEST_F(WizardFinish, ABulletinThatComesWhileTheWizardIsOpenTakesTheBarAndLeavesThePages) {
+  SetUpLocations(1);
+  LocationProfile[ProfileRow::TornadoWarning][0] = LocationProfile[ProfileRow::NWSAlertMessage][0] = "1";
+  Doubles.Reply("bulletins.asp", Reply(Element("pc", "10000") + Element("Type", "TOR") + Element("IT", "") +
+                                       Element("ET", "Mar 08 2003 12:30AM") + Element("Text", "Cover!")));
+  EditLocation(0);
+  SetupWizardForm.FlashFloodWarning.Check(true);
+  const int page = Wizard.CurrentFrame;
+  Bulletins.NWSCheckElapsed = 100000;
+  MainForm.UpdateTimer.Elapse();
+  EXPECT_EQ(Bulletins.NWSAlertActive, 1);
+  EXPECT_TRUE(TickerForm.Visible);
+  EXPECT_TRUE(SetupWizardForm.Visible);
+  EXPECT_EQ(Page(), page);
+  EXPECT_TRUE(SetupWizardForm.FlashFloodWarning.Checked);
+  Done("Home");
+  EXPECT_EQ(LocationProfile[ProfileRow::FlashFloodWarning][0], "1");
+  EXPECT_EQ(Bulletins.NWSAlertActive, 1) << "the same bulletin is no news";
+}
+
 TEST_F(WizardFinish, AnEditAfterANewLocationFetchesItsOwnPlaceAnew) {
   AddSecond();
   Place(0, "Dallas", "TX");

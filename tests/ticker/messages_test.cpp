@@ -76,6 +76,14 @@ TEST_F(MessagesTest, ATwelfthEntryOfASetEndsTheLoadAndWhatWasStoredStays) {
   EXPECT_EQ(Shown(MainForm.Sponsor0), "banner 0");
 }
 
+TEST_F(MessagesTest, ALoadClearsTheEntriesOfEverySet) {
+  LoadFeed({{"0", "a"}, {"0", "b"}, {"3", "page", "60"}});
+  LoadFeed({{"0", "new"}});
+  EXPECT_EQ(Set(0).Entries[0].messagetext, "new");
+  EXPECT_EQ(Set(0).Entries[1].messagetext, "");
+  EXPECT_EQ(Set(3).Entries[0].interval, "");
+}
+
 TEST_F(MessagesTest, AtMost61EntriesAreRead) {
   std::vector<FeedEntry> feed(60, {"9", "dropped"});
   feed.push_back({"0", "the 61st"});
@@ -119,6 +127,7 @@ TEST_F(MessagesTest, ATagShortOfElementsEndsTheLoadThere) {
 
 TEST_F(MessagesTest, TheFirstRotationAfterALoadShowsTheBannersAtOnce) {
   LoadFeed({{"0", "a"}, {"1", "b"}, {"4", "e"}});
+  TickerForm.Sponsor4.Enabled = false;
   Rotate();
   EXPECT_EQ(Shown(MainForm.Sponsor0), "a");
   EXPECT_EQ(Shown(SystemOptionsForm.SponsorBanner), "a") << "both displays of the set";
@@ -327,6 +336,7 @@ TEST_F(MessagesTest, TheEndOfABulletinStartsItsText) {
   HostTable.messageinterval = "100000";
   MainForm.UpdateTimer.Elapse();
   EXPECT_EQ(Messages.MessageShown, "tornado");
+  EXPECT_EQ(Messages.MessageSeconds, 30) << "the rotation of the same tick follows it";
 }
 
 TEST_F(MessagesTest, TheBannersEventHidesAndShowsThem) {
