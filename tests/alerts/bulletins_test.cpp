@@ -430,9 +430,11 @@ TEST_F(BulletinsTest, TextsAreTakenAsTheyComeAndCannotLeaveTheirPlaceInThePage) 
 
 TEST_F(BulletinsTest, AMailThatFailsEndsTheCheckWhenAllElseIsDoneAndNothingIsSaidTwice) {
   WishAll(0);
-  Wish(0, {ProfileRow::NWSAlertEmail});
+  Wish(0, {ProfileRow::NWSAlertEmail, ProfileRow::NWSAlertVoice});
+  Doubles.Store(kOptionsKey, "Speak", "1");
   Doubles.mail_failure.at = 1;
   Check({{"10000", "TOR", "text"}});
+  EXPECT_EQ(Doubles.spoken.size(), 1u);
   EXPECT_EQ(Bulletins.NWSAlertActive, 1);
   EXPECT_EQ(Bar(), BulletinPage("TEXT"));
   Bulletins.NWSAlertActive = 0;

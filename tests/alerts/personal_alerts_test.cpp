@@ -261,6 +261,19 @@ TEST_F(PersonalAlertsTest, TheSoundOfALocationWithoutFindingsCountsForThoseOfAno
   EXPECT_EQ(Doubles.mails[0].second.body, "\r\n");
 }
 
+TEST_F(PersonalAlertsTest, ALocationWithoutFindingsAddsNothingToTheMessage) {
+  Limit(0, ProfileRow::MaximumTemperature, "40");
+  Wish(1, {ProfileRow::SKLTPersonalAlert, ProfileRow::SKLTAlertMessage});
+  PersonalAlerts();
+  const std::string found = Finding(" Temperature: 40 F ", "03:00 PM Friday Mar 07 2003");
+  EXPECT_EQ(Bar(), PersonalPage(" Skyloft Alert: " + found, "00000"));
+  PersonalAlertsState = {};
+  LocationProfile[ProfileRow::SKLTAlertMessage][0] = "0";
+  PersonalAlerts();
+  EXPECT_EQ(PersonalAlertsState.PersonalAlertActive, 0) << "nor does it show one";
+  EXPECT_EQ(Button(), "personals.gif on");
+}
+
 TEST_F(PersonalAlertsTest, ABulletinKeepsTheBarWhileButtonAndMailGoOn) {
   Limit(0, ProfileRow::MaximumTemperature, "40");
   Wish(0, {ProfileRow::SKLTAlertEmail});
@@ -324,7 +337,9 @@ TEST_F(PersonalAlertsTest, AReplayAfterAnEndLastsOneTickAndIsSilent) {
   EXPECT_EQ(PersonalAlertsState.PersonalAlertActive, 0);
   Messages.MessageActive = 1;
   TickerForm.Visible = false;
+  PersonalAlertsState.PersonalAlertElapsed = 20;
   MainForm.PersonalAlertButton.Click();
+  EXPECT_EQ(PersonalAlertsState.PersonalAlertElapsed, 0);
   EXPECT_EQ(PersonalAlertsState.PersonalAlertActive, 1);
   EXPECT_EQ(PersonalAlertsState.PersonalAlertDuration, 0);
   EXPECT_EQ(Bar(), PersonalPage(Replay(), "000000"));
@@ -362,9 +377,11 @@ TEST_F(PersonalAlertsTest, AnHourWithoutATimeEndsTheRunWithTheStateReached) {
 
 TEST_F(PersonalAlertsTest, AMailThatFailsEndsTheRunBeforeItsCounters) {
   Limit(0, ProfileRow::MaximumTemperature, "40");
-  Wish(0, {ProfileRow::SKLTAlertEmail});
+  Wish(0, {ProfileRow::SKLTAlertEmail, ProfileRow::SKLTAlertVoice});
+  Doubles.Store(kOptionsKey, "Speak", "1");
   Doubles.mail_failure.at = 1;
   PersonalAlerts();
+  EXPECT_EQ(Doubles.spoken.size(), 1u);
   EXPECT_EQ(PersonalAlertsState.PersonalAlertActive, 1);
   EXPECT_EQ(PersonalAlertsState.PersonalAlertDuration, 0);
 }

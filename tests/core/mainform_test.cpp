@@ -1,5 +1,6 @@
 #include "core/mainform.h"
 
+#include "alerts/personal_alerts.h"
 #include "core/chrome.h"
 
 #include "feed/hosts.h"
@@ -163,6 +164,14 @@ TEST_F(StartUp, EveryRowSetsItsTextAndItsValueAndTheSplashStaysOverTheMainWindow
     EXPECT_TRUE(InitializingForm.Visible) << i;
     EXPECT_EQ(MainForm.TornadoButton.Visible, i >= 12) << i;
   }
+}
+
+TEST_F(StartUp, BulletinsAndPersonalAlertsAreCheckedLast) {
+  SetUpStored(1);
+  Doubles.Store("Software\\Aerolume\\Skyloft\\Location0", "TornadoWarning", "1");
+  LoadMainForm();
+  EXPECT_EQ(Doubles.requests.back(), "server/bulletins.asp?pc=10000&t=xml");
+  EXPECT_EQ(PersonalAlertsState.PersonalAlertText, "Skyloft Alert: ");
 }
 
 TEST_F(StartUp, AnEndThatTheDesktopAsksForSavesOnlyWhatWasLoaded) {

@@ -269,6 +269,7 @@ TEST_F(WizardFinish, AFindingOfTheFirstCheckHasTheBar) {
                                        Element("ET", "Mar 08 2003 12:30AM") + Element("Text", "Cover!")));
   BeginAt(2);
   SystemOptionsForm.ShowTicker.Checked = false;
+  SystemOptionsForm.ShowCurrentConditions.Checked = true;  // the rotation would show it
   SetupWizardForm.TornadoWarning.Check(true);
   SetupWizardForm.NWSAlertMessage.Check(true);
   Done("My House");

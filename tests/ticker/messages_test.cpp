@@ -76,6 +76,20 @@ TEST_F(MessagesTest, ATwelfthEntryOfASetEndsTheLoadAndWhatWasStoredStays) {
   EXPECT_EQ(Shown(MainForm.Sponsor0), "banner 0");
 }
 
+TEST_F(MessagesTest, ALoadBeginsEverySetAnewSoThatItsFirstEntryShowsAtOnce) {
+  const std::vector<FeedEntry> feed = {{"0", "one", "600"}, {"0", "two", "600"}};
+  LoadFeed(feed);
+  Rotate();
+  EXPECT_EQ(Set(0).MessageIndex, 1);
+  EXPECT_EQ(Set(0).MessageInterval, 600);
+  MainForm.Sponsor0.Document = "former";
+  LoadFeed(feed);
+  EXPECT_EQ(Set(0).MessageInterval, 0);
+  EXPECT_EQ(Set(0).MessageCounter, 100000);
+  Rotate();
+  EXPECT_EQ(Shown(MainForm.Sponsor0), "one");
+}
+
 TEST_F(MessagesTest, ALoadClearsTheEntriesOfEverySet) {
   LoadFeed({{"0", "a"}, {"0", "b"}, {"3", "page", "60"}});
   LoadFeed({{"0", "new"}});
@@ -337,6 +351,16 @@ TEST_F(MessagesTest, TheEndOfABulletinStartsItsText) {
   MainForm.UpdateTimer.Elapse();
   EXPECT_EQ(Messages.MessageShown, "tornado");
   EXPECT_EQ(Messages.MessageSeconds, 30) << "the rotation of the same tick follows it";
+}
+
+TEST_F(MessagesTest, ABulletinThatEndsTogetherWithAPersonalMessageStartsNoText) {
+  LoadFeed({{"2", "tornado", "0", "T"}});
+  Bulletins.TornadoAlertText = "held";
+  Bulletins.NWSAlertActive = PersonalAlertsState.PersonalAlertActive = 1;
+  HostTable.messageinterval = "100000";
+  MainForm.UpdateTimer.Elapse();
+  EXPECT_FALSE(IsAlertShowing());
+  EXPECT_EQ(Messages.MessageShown, "") << "the personal message ends behind the bulletin";
 }
 
 TEST_F(MessagesTest, TheBannersEventHidesAndShowsThem) {
