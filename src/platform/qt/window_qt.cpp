@@ -37,7 +37,10 @@ void FillMenu(QMenu& menu, const Form& form, const Control& container) {
     action->setEnabled(entry->Enabled && entry->Click);
     action->setCheckable(entry->Checked);
     action->setChecked(entry->Checked);
-    QObject::connect(action, &QAction::triggered, action, [entry] { Raise([&] { entry->Press(); }); });
+    // Posted: an entry may let events go on for long, and the menu goes with them.
+    QObject::connect(
+        action, &QAction::triggered, &Display::Get(), [entry] { Raise([&] { entry->Press(); }); },
+        Qt::QueuedConnection);
   }
 }
 

@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QMenu>
 #include <QTimer>
 
 #include "core/class1.h"
@@ -213,6 +214,36 @@ TEST_F(WindowOnADesktop, AModalOneKeepsTheUserOutOfTheOthersUntilItIsHidden) {
   EXPECT_TRUE(Await([&] { return !WindowOf(modal).isVisible(); }));
   press();
   EXPECT_TRUE(Await([&] { return pressed == 1; }));
+}
+
+struct FormWithMenu : BareForm {
+  MenuItem Menu{this, "Menu", "Menu", nullptr};
+  MenuItem First{this, "First", "First", &Menu};
+  MenuItem Inner{this, "Inner", "Fish & Chips", &Menu};
+  MenuItem Second{this, "Second", "Second", &Inner};
+};
+
+TEST_F(WindowOnADesktop, AMenusEntryActsWhenTheMenuIsGoneSoThatItCanWait) {
+  FormWithMenu& form = *new FormWithMenu();
+  Show(form);
+  const auto menus = [&] { return WindowOf(form).findChildren<QMenu*>(); };
+  int chosen = 0;
+  form.First.Click = [&] { ++chosen; };
+  form.Second.Click = [&] {
+    EXPECT_TRUE(menus().empty());
+    Pass(100);
+    chosen += 10;
+  };
+  PopUpMenu(form, form.Menu);
+  ASSERT_EQ(menus().size(), 2);
+  EXPECT_EQ(menus()[0]->actions()[1]->text(), "Fish && Chips") << "no key is marked in it";
+  for (const xcb_keysym_t key : {0xff54, 0xff54, 0xff53, 0xff0d}) {  // Down, Down, Right, Return
+    Pass(200);
+    Screen().TapKey(key);
+  }
+  EXPECT_TRUE(Await([&] { return chosen > 0; }));
+  EXPECT_EQ(chosen, 10);
+  form.Visible = false;
 }
 
 class DragButton : public WindowOnADesktop, public testing::WithParamInterface<std::uint8_t> {};
