@@ -228,11 +228,6 @@ TEST_F(RouteReport, ABusyConnectionEndsTheTableBeforeItsStopAndTheTagsAreClosed)
   EXPECT_TRUE(Doubles.requests.empty());
   EXPECT_EQ(RouteScopeForm.Label3.Caption.Get(), "0 miles") << "of the first stop";
   EXPECT_EQ(MainForm.ProductTitle.Caption.Get(), "RouteScope");
-
-  MainForm.Http.State = 0;
-  Doubles.during_fetch = [](const std::string&) { MainForm.ImagePoints[7].Tag = "asked"; };
-  Doubles.Reply("lat=50&", HourReply("Minot, ND"));
-  EXPECT_EQ(Column(Report(), "Location"), (Words{"Minot, ND", ""}));
 }
 
 TEST_F(RouteReport, AStopWithoutAReplyHasARowWithoutData) {
