@@ -44,7 +44,7 @@ void FileList::Describe(PropertyList& out) const {
 }
 
 MenuItem::MenuItem(Form* form, std::string name, const std::string& caption, Control* container)
-    : Control(form, std::move(name), container) {
+    : Control(form, std::move(name), container), separator_(caption == "-") {
   Caption = caption;
 }
 

@@ -60,6 +60,7 @@ class FileList : public Control {
 // An entry of a pop-up menu. `container` of the constructor is the entry whose submenu it stands in.
 class MenuItem : public Control {
  public:
+  // The caption "-" makes a separator; an entry that is given that caption later is none.
   MenuItem(Form* form, std::string name, const std::string& caption, Control* container);
   // For a member of an array: it starts hidden and without a caption.
   MenuItem(Form* form, std::string name, Control* container);
@@ -67,10 +68,13 @@ class MenuItem : public Control {
   void Describe(PropertyList& out) const override;
   void Accept(ControlVisitor& visitor) override;
   void Press();  // act
-  bool Separator() const { return Caption.Get() == "-"; }
+  bool Separator() const { return separator_; }
   Property<std::string> Caption{this};
   Property<bool> Checked{this};
   Event Click;
+
+ private:
+  bool separator_ = false;
 };
 
 }  // namespace skyloft

@@ -6,6 +6,8 @@
 #include "forms/menu_form.h"
 #include "forms/system_options_form.h"
 #include "forms/ticker_form.h"
+#include "settings/location_profiles.h"
+#include "settings/registry.h"
 #include "settings/settings.h"
 #include "station.h"
 #include "store_changes.h"
@@ -64,6 +66,18 @@ TEST_F(Menu, TheThreeMenusHaveTheirEntriesInTheirOrder) {
   EXPECT_EQ(EntriesOf(MenuForm.Ticker),
             "Show Skyloft, Hide Ticker, Top Screen Position, Always Foreground, Customize [Show Current "
             "Conditions, Show Hourly Forecast, Show 3-Day Forecast, Show Almanac]");
+}
+
+TEST_F(Menu, ThreeEntriesAreSeparatorsAndATownIsNoneWhateverItsTitle) {
+  SetUpLocations(1);
+  LocationProfile[ProfileRow::Title][0] = "-";
+  ListTitles();
+  std::vector<std::string> separators;
+  for (Control* control : MenuForm.Controls()) {
+    auto* entry = dynamic_cast<MenuItem*>(control);
+    if (entry && entry->Separator()) separators.push_back(entry->Name());
+  }
+  EXPECT_EQ(separators, (std::vector<std::string>{"Line1", "Line2", "Line3"}));
 }
 
 TEST_F(Menu, TheThreeSponsorEntriesStandInNoMenuAndDoNothing) {
