@@ -16,6 +16,7 @@ namespace skyloft {
 namespace {
 
 void Add() {
+  if (IsWizardWorking()) return;
   const int next = LastLocation() + 1;
   if (next >= kLocationSlots) {
     ShowBox(BoxKind::Error, "ERROR: The maximum number of locations is 5.");
@@ -24,12 +25,17 @@ void Add() {
   AddLocation(next);
 }
 
+void Edit(int index) {
+  if (!IsWizardWorking()) EditLocation(index);
+}
+
 // The data file is written before the store: an end between the two leaves a file too short for the old
 // locations, which is then fetched anew, and never one that is read for the wrong ones.
 void Remove(int index) {
   const SavedTogether together;
   const int last = LastLocation();
   RemoveLocationEntry(index, last);
+  ForgetLocation(index);
   MainForm.LocationSelection.RemoveItem(index);
   Settings.LocationIndexMax = NumberText(last - 1);
   MainForm.LocationSelection.Select(index == last ? index - 1 : index);
@@ -41,6 +47,7 @@ void Remove(int index) {
 }
 
 void Delete(int index) {
+  if (IsWizardWorking()) return;
   if (LastLocation() == 0) {
     ShowBox(BoxKind::Error, "ERROR: Skyloft requires at least 1 location!");
     return;
@@ -64,7 +71,7 @@ void ConnectLocationMenu() {
   MenuForm.AddLocation.Click = Add;
   for (int i = 0; i < MenuForm.DeleteLocationTitle.Size(); ++i) {
     MenuForm.DeleteLocationTitle[i].Click = [i] { Delete(i); };
-    MenuForm.EditLocationTitle[i].Click = [i] { EditLocation(i); };
+    MenuForm.EditLocationTitle[i].Click = [i] { Edit(i); };
     MenuForm.TrayLocationTitle[i].Click = [i] { SetTrayLocation(i); };
   }
 }

@@ -4,7 +4,8 @@
 namespace skyloft {
 
 // Attaches the entries. Adding is refused with five locations, deleting with one; deleting asks first, and
-// what it leaves reaches the store as a whole.
+// what it leaves reaches the store as a whole. While the wizard is at work it shows itself instead of all
+// three.
 void ConnectLocationMenu();
 
 }  // namespace skyloft

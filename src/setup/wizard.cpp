@@ -82,6 +82,7 @@ bool LeavePage() {
 }
 
 void NextScreen() {
+  Wizard.Working = true;
   Guarded([] {
     SetupWizardFormControls& form = SetupWizardForm;
     if (Wizard.CurrentFrame == kWelcomePage) {
@@ -99,6 +100,7 @@ void NextScreen() {
     if (Wizard.CurrentFrame > kEmailPage) form.BackButton.Enabled = true;
     form.NextButton.Caption = Wizard.CurrentFrame == kTitlePage ? "Done" : "Next";
   });
+  Wizard.Working = false;
 }
 
 void PreviousScreen() {
@@ -134,6 +136,17 @@ void EditLocation(int index) {
   LoadProfilePages(index);
   Wizard.EditIndex = index;
   Open(WizardKind::Edit, kBulletinPage);
+}
+
+bool IsWizardWorking() {
+  if (Wizard.Working) SetupWizardForm.Visible = true;
+  return Wizard.Working;
+}
+
+void ForgetLocation(int index) {
+  if (Wizard.WizardMode != WizardKind::Edit || Wizard.EditIndex < index) return;
+  if (Wizard.EditIndex == index) SetupWizardForm.Visible = false;
+  --Wizard.EditIndex;
 }
 
 void ShowFrame(int index) {

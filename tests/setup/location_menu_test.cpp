@@ -10,6 +10,7 @@
 #include "setup/wizard.h"
 #include "station.h"
 #include "store_changes.h"
+#include "wizard_station.h"
 
 namespace skyloft {
 namespace {
@@ -148,6 +149,72 @@ TEST_F(LocationMenu, DeleteChangesInTheStoreWhatItMovesAndNothingElse) {
                                 {"location1/NEXRADLocation", "KTW2"}}));
   EXPECT_EQ(Doubles.Stored("Software\\Aerolume\\Skyloft\\Location2", "Title"), "Town 2")
       << "the slot behind the last keeps its old values";
+}
+
+TEST_F(LocationMenu, AnEditFollowsItsLocationWhenAnotherIsDeletedAndEndsWithItsOwn) {
+  const struct {
+    int edited, index;
+    bool goes_on;
+    const char* titles;
+  } cases[] = {{1, 0, true, "Home, Town 2"},
+               {1, 2, true, "Town 0, Home"},
+               {1, 1, false, "Town 0, Town 2"},
+               {2, 2, false, "Town 0, Town 1"},
+               {0, 0, false, "Town 1, Town 2"}};
+  for (const auto& c : cases) {
+    MainForm.LocationSelection.Clear();
+    Begin(3);
+    EditLocation(c.edited);
+    Delete(c.index);
+    EXPECT_EQ(SetupWizardForm.Visible.Get(), c.goes_on) << c.edited << " " << c.index;
+    if (c.goes_on) {
+      WalkTo(8);
+      SetupWizardForm.TitleResult.Text = "Home";
+      SetupWizardForm.NextButton.Press();
+    }
+    EXPECT_EQ(Shown(MenuForm.EditLocationTitle), c.titles) << c.edited << " " << c.index;
+    EXPECT_EQ(LocationProfile[ProfileRow::Title][2], "") << "a slot that is no more";
+  }
+}
+
+TEST_F(LocationMenu, ANewLocationTakesTheSlotThatIsFreeWhenItIsDone) {
+  Begin(3);
+  Doubles.Reply("location_setup.asp", LawrenceReply());
+  AddLocation(3);
+  SetupWizardForm.ZipCodeInput.Text = "66044";
+  WalkTo(8);
+  Delete(1);
+  EXPECT_TRUE(SetupWizardForm.Visible);
+  SetupWizardForm.TitleResult.Text = "Home";
+  SetupWizardForm.NextButton.Press();
+  EXPECT_EQ(Shown(MenuForm.EditLocationTitle), "Town 0, Town 2, Home");
+  EXPECT_EQ(LocationProfile[ProfileRow::ZipCode][2], "66044");
+}
+
+TEST_F(LocationMenu, WhileTheWizardIsAtWorkItShowsItselfInsteadOfAllThree) {
+  Begin(2);
+  Doubles.Reply("location_setup.asp", LawrenceReply());
+  MenuItem* const entries[] = {&MenuForm.AddLocation, &MenuForm.EditLocationTitle[0],
+                               &MenuForm.DeleteLocationTitle[0]};
+  for (MenuItem* entry : entries) {
+    AddLocation(2);
+    SetupWizardForm.ZipCodeInput.Text = "66044";
+    Doubles.during_fetch = [&](const std::string&) {
+      SetupWizardForm.CancelButton.Press();
+      entry->Press();
+      EXPECT_TRUE(SetupWizardForm.Visible) << entry->Name();
+      EXPECT_EQ(Wizard.WizardMode, WizardKind::Add);
+      EXPECT_EQ(Wizard.CurrentFrame, 2);
+      EXPECT_EQ(SetupWizardForm.ZipCodeInput.Text.Get(), "66044");
+      EXPECT_EQ(Settings.LocationIndexMax, "1");
+    };
+    SetupWizardForm.NextButton.Press();
+    EXPECT_EQ(Wizard.CurrentFrame, 3) << "the place is found";
+    Doubles.during_fetch = {};
+    MenuForm.EditLocationTitle[0].Press();
+    EXPECT_EQ(Wizard.WizardMode, WizardKind::Edit) << "later it may";
+  }
+  EXPECT_TRUE(Doubles.boxes.empty());
 }
 
 TEST_F(LocationMenu, DeleteReachesTheStoreInOneGo) {

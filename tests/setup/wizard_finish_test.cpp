@@ -46,7 +46,7 @@ class WizardFinish : public WizardStation {
   }
   // Next from the page before the title, and Done.
   void Done(const std::string& title) {
-    while (Wizard.CurrentFrame < 8) Next();
+    WalkTo(8);
     SetupWizardForm.TitleResult.Enter(title);
     told_.clear();
     buttons_off_ = true;
@@ -229,7 +229,7 @@ TEST_F(WizardFinish, AnEditAfterANewLocationFetchesItsOwnPlaceAnew) {
 
 TEST_F(WizardFinish, WithoutAServerTheLocationIsStoredWithoutData) {
   BeginAt(2);
-  while (Wizard.CurrentFrame < 8) Next();
+  WalkTo(8);
   Doubles.replies.clear();
   Next();
   EXPECT_EQ(Stored("Location0", "City"), "Lawrence");
