@@ -228,6 +228,18 @@ TEST_F(WizardTest, CancellingALaterOneOnlyHidesIt) {
   }
 }
 
+TEST_F(WizardTest, OnlyANewLocationClearsAnEarlierSearch) {
+  SetUpLocations(1);
+  AddLocation(1);
+  SetupWizardForm.ZipCodeInput.Text = "66044";
+  Next();
+  SetupWizardForm.CancelButton.Press();
+  EditLocation(0);
+  EXPECT_EQ(Wizard.LocationFound, 1);
+  AddLocation(1);
+  EXPECT_EQ(Wizard.LocationFound, 0);
+}
+
 TEST_F(WizardTest, AFailureInTheMiddleOfNextLeavesThePage) {
   SetUpLocations(1);
   AddLocation(1);
