@@ -155,8 +155,11 @@ TEST_F(RouteReport, DistancesAreStraightLinesRoundedToMiles) {
   const struct {
     double north, east;
     const char* miles;
-  } cases[] = {{0, 1, "44"},           {0, -1, "44"}, {-1, 0, "69"},
-               {0.5210, 0.6081, "45"}, {0, 0, "0"},   {10, 0, "691"}};
+  } cases[] = {
+      {0, 1, "44"},     {0, -1, "44"},  {-1, 0, "69"},   {0.5210, 0.6081, "45"},
+      {0, 0, "0"},      {10, 0, "691"}, {15, 0, "1036"},  // 1036.5: a half goes to the even neighbour
+      {-10, 10, "821"},  // by the cosine of the stop before, 691 and 444.2 miles
+      {0, 90, "3998"}};  // 3997.8; it were 3997.5 with 57.2958 degrees to the radian
   for (const auto& c : cases) {
     count = 0;
     Stop(0, 0);
