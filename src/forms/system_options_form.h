@@ -30,7 +30,6 @@ struct SystemOptionsFormControls : Form {
     AutoConnect.Caption = "Automatically connect to the internet";
     OKButton.Caption = "OK";
     OKButton.Default = true;
-    OKButton.Default = true;
     SponsorBanner.Visible = false;
     FillMinutes(NWSIndexMax, 2, 10, 1);
     FillMinutes(CurrentConditionsIndexMax, 5, 60, 5);

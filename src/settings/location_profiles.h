@@ -25,7 +25,7 @@ enum : int {
   TimeZone,   // hours from GMT, standard time
   Latitude,   // degrees, two decimals
   Longitude,  // degrees, negative west
-  Title,      // the name shown in every list; never empty for a slot in use
+  Title,      // the name shown in every list, as the user typed it
   StateLong,
   Dst,  // hours to add for daylight time
   NWSForecastOffice,
