@@ -43,6 +43,7 @@ class ViewMaker : public ControlVisitor {
 
   void Visit(Label& model) override {
     auto* label = new ClickLabel(ParentOf(model));
+    label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     label->setAlignment(AlignmentOf(model));
     if (model.Name() == "EmailLink") label->setCursor(Qt::PointingHandCursor);

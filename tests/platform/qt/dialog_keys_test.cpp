@@ -57,6 +57,7 @@ struct AskForm : Form {
   Label Above{this, "Above", &Pages[1]};
   ListControl WarmValue{this, "WarmValue", &Pages[1]};
   ImageButton RainButton{this, "RainButton", &Pages[1]};
+  Label Heading{this, "Heading"};
   Button Cancel{this, "Cancel"};
   Button Next{this, "Next"};
   int cancelled = 0, advanced = 0;
@@ -102,6 +103,14 @@ TEST_F(DialogKeys, ALetterStaysWithItsControlWhenTheCaptionChanges) {
   form_.Next.Caption = "OK";
   Update();
   EXPECT_EQ(TextOf<QPushButton>("Next"), "OK");
+}
+
+TEST_F(DialogKeys, ALabelShowsACaptionAsItStands) {
+  form_.Heading.Caption = "<b>My</b> House";
+  Show();
+  const auto* label = window_.findChild<QLabel*>("Heading");
+  EXPECT_EQ(label->text(), "<b>My</b> House");
+  EXPECT_EQ(label->textFormat(), Qt::PlainText) << "nothing in it is taken for a tag";
 }
 
 TEST_F(DialogKeys, AWindowWithoutATitleBarHasNone) {

@@ -61,6 +61,35 @@ TEST_F(RealStore, ValuesOfAllKindsSurviveAReload) {
   EXPECT_EQ(std::get<std::int32_t>(Read("Number", std::int32_t{0})), -12);
 }
 
+TEST_F(RealStore, ATextOfAnyCharactersSurvivesAReload) {
+  std::string all;
+  const std::string missing = "\x81\x8D\x8F\x90\x9D";  // of windows-1252
+  for (int c = 1; c < 256; ++c) {
+    if (missing.find(static_cast<char>(c)) == missing.npos) all += static_cast<char>(c);
+  }
+  const std::string texts[] = {all,
+                               std::string("a\0b", 3),
+                               "@Invalid()",
+                               "@",
+                               "a,b",
+                               " , ",
+                               "\"",
+                               "'",
+                               "%41",
+                               "\\x41",
+                               "\x01"
+                               "1",
+                               "[x]",
+                               ";",
+                               "true",
+                               std::string(20000, '&')};
+  for (size_t i = 0; i < std::size(texts); ++i) Write("Title" + std::to_string(i), texts[i]);
+  SetUpStore(folder.path());
+  for (size_t i = 0; i < std::size(texts); ++i) {
+    EXPECT_EQ(std::get<std::string>(Read("Title" + std::to_string(i), std::string())), texts[i]) << i;
+  }
+}
+
 TEST_F(RealStore, AValueThatReadsBackAsAListIsJoined) {
   QFile file(folder.path() + "/registry.ini");
   ASSERT_TRUE(file.open(QIODevice::WriteOnly));
