@@ -44,6 +44,13 @@ void TellSplash() { InitializingForm.SoftwareStatus.Caption = "synchronizing"; }
 
 void StoreNewPlace() { SetProfile(SelectedLocation(), Wizard.Results, 0); }
 
+// Without an answer the next refresh asks again, although the model run is the one that is held.
+void FetchForecast() {
+  GetForecastData(1);
+  const int last = LastLocation();
+  if (ForecastHour[last][0].Ut.empty() || ForecastDay[last][0].Ut.empty()) Settings.ModelLocal.clear();
+}
+
 void ShowLocations() {
   ListTitles();
   MainForm.LocationSelection.Select(SelectedLocation());
@@ -65,7 +72,7 @@ void FetchLocation(bool edited) {
        {"receiving sector data", {GetSectorData}}});
   if (edited) Run({{"receiving available products", {}}});
   Run({{"receiving current conditions", {GetCurrentData}},
-       {"receiving forecasts", {[] { GetForecastData(1); }}},
+       {"receiving forecasts", {FetchForecast}},
        {"processing forecasts", {[] { GetPeriod(1); }}},
        {"processing almanac", {GetAlmanac}},
        {"receiving NEXRAD radar", {[] { GetNexradData(0); }}}});
