@@ -40,7 +40,6 @@ void AppendStop(int x, int y) {
   Route.RouteLongitude[stop] = place.longitude;
   Mark& mark = MainForm.ImagePoints[stop];
   mark.Tag = "";
-  mark.Color = kWhite;
   mark.Left = x - kPointRadius;
   mark.Top = y - kPointRadius;
   mark.Visible = true;

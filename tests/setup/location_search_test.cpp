@@ -57,12 +57,17 @@ TEST_F(LocationSearch, CoordinatesStayWholeInTheResultsAndAreRoundedInTheProfile
   EXPECT_EQ(results[PlaceEntry::Latitude], "38.9717");
   EXPECT_EQ(LocationProfile[ProfileRow::Latitude][3], "38.97");
   EXPECT_EQ(LocationProfile[ProfileRow::Longitude][3], "-95.24");
-  EXPECT_EQ(LocationProfile[ProfileRow::ZipCode][3], "66044");
-  EXPECT_EQ(LocationProfile[ProfileRow::TimeZone][3], "-6");
-  EXPECT_EQ(LocationProfile[ProfileRow::Dst][3], "1");
-  EXPECT_EQ(LocationProfile[ProfileRow::NEXRADLocation][3], "TWX");
-  EXPECT_EQ(LocationProfile[ProfileRow::NEXRADServer][3], "radar.skyloft.example");
-  EXPECT_EQ(LocationProfile[ProfileRow::StateLong][3], "Kansas");
+}
+
+TEST_F(LocationSearch, EveryEntryGoesToItsRowOfTheProfile) {
+  SearchLocationDatabase(results);
+  CopyPlace(results, 3);
+  // Rows 0 to 15; the title, row 8, is none of the place's.
+  const char* rows[] = {
+      "66044", "Lawrence", "KS", "Douglas", "785", "-6",     "38.97",   "-95.24",
+      "",      "Kansas",   "1",  "TOP",     "TWX", "38.997", "-96.232", "radar.skyloft.example"};
+  for (int row = 0; row <= ProfileRow::NEXRADServer; ++row)
+    EXPECT_EQ(LocationProfile[row][3], rows[row]) << row;
 }
 
 TEST_F(LocationSearch, TwoDecimalsAreWrittenAsANumber) {
