@@ -7,6 +7,7 @@
 #include "feedserver/query.h"
 #include "feedserver/radar.h"
 #include "feedserver/replies.h"
+#include "feedserver/storms.h"
 
 namespace skyloft::feed {
 namespace {
@@ -27,8 +28,18 @@ Reply AnswerForecast(const Request& request, const World& world) {
 }
 
 Reply AnswerBulletins(const Request& request, const World& world) {
-  const auto bulletins = world.bulletins ? world.bulletins(request.now) : std::vector<Bulletin>();
-  return XmlReply(BulletinsXml(Query(request.query), bulletins, request.now));
+  const Query query(request.query);
+  auto bulletins = world.bulletins ? world.bulletins(request.now) : std::vector<Bulletin>();
+  if (world.storms) {
+    for (const std::string_view postal_code : query.All("pc")) {
+      const Place* const place = FindPlace(postal_code);
+      if (!place) continue;
+      for (Bulletin& bulletin : StormBulletins(*place, request.now, world.seed)) {
+        bulletins.push_back(std::move(bulletin));
+      }
+    }
+  }
+  return XmlReply(BulletinsXml(query, bulletins, request.now));
 }
 
 Reply AnswerUpdate(const World& world) {

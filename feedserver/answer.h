@@ -19,6 +19,7 @@ struct World {
   std::string update_file{};                // what is served as the update; "" when there is none
   // What bulletins there are at a moment, some perhaps not yet or no longer in force; empty for none.
   std::function<std::vector<Bulletin>(Date now)> bulletins{};
+  bool storms = false;  // whether the weather's own storms have bulletins too
 };
 
 struct Request {

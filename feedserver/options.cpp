@@ -52,6 +52,8 @@ Options ReadOptions(const std::vector<std::string>& arguments) {
     const ValueOption* const option = FindValueOption(name);
     if (name == "--stay") {
       options.stays = true;
+    } else if (name == "--storms") {
+      options.world.storms = true;
     } else if (name == "--help") {
       options.wants_help = true;
     } else if (!option) {
@@ -78,6 +80,7 @@ std::string_view HelpText() {
   --offer-version V  the version of the program that is on offer (default 1.20.00)
   --update FILE      what is served as the update
   --bulletins FILE   the bulletins that are in force, read again when the file changes; see docs/feed-protocol.md
+  --storms           the simulated weather's own storms have bulletins
   --stay             do not end when standard input ends
   --help             print this
 

@@ -11,7 +11,7 @@ TEST(Options, AreRead) {
   const Options options =
       ReadOptions({"--port", "0", "--seed", "18446744073709551615", "--now", "2003-03-07T14:05:00", "--log",
                    "l", "--fault", "/a=cut", "--fault", "/b=hang@2", "--offer-version", "1.21.00", "--update",
-                   "u", "--bulletins", "b", "--stay"});
+                   "u", "--bulletins", "b", "--storms", "--stay"});
   EXPECT_EQ(options.port, 0);
   EXPECT_EQ(options.world.seed, ~std::uint64_t{0});
   EXPECT_EQ(options.now, MakeDate(2003, 3, 7, 14, 5, 0));
@@ -23,7 +23,9 @@ TEST(Options, AreRead) {
   EXPECT_EQ(options.update_file, "u");
   EXPECT_EQ(options.bulletins_file, "b");
   EXPECT_TRUE(options.stays);
+  EXPECT_TRUE(options.world.storms);
   EXPECT_FALSE(ReadOptions({}).stays);
+  EXPECT_FALSE(ReadOptions({}).world.storms);
   EXPECT_FALSE(ReadOptions({}).now);
 }
 
@@ -36,7 +38,7 @@ TEST(Options, WhatIsNotUnderstoodRaises) {
 
 TEST(Options, HelpNamesEveryOption) {
   for (const char* name : {"--port", "--seed", "--now", "--log", "--fault", "--offer-version", "--update",
-                           "--bulletins", "--stay", "--help"}) {
+                           "--bulletins", "--storms", "--stay", "--help"}) {
     EXPECT_NE(HelpText().find(name), std::string_view::npos) << name;
   }
 }
