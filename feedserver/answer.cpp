@@ -77,10 +77,10 @@ std::vector<Request> RequestsAfter(const Request& request) {
   const Query query(request.query);
   if (request.path != "/forecast.asp" || query.First("d") != "meta") return requests;
   for (const std::string_view postal_code : query.All("pc")) {
-    const Place* const place = FindPlace(postal_code);
+    const std::optional<Place> place = FindPlace(postal_code);
     if (place) {
       requests.push_back(
-          {RadarPath({RadarProduct::Reflectivity, &place->radar}), "", RadarTime(request.now)});
+          {RadarPath({RadarProduct::Reflectivity, place->radar}), "", RadarTime(request.now)});
     }
   }
   return requests;

@@ -69,7 +69,7 @@ std::vector<std::string_view> Distinct(const std::vector<std::string_view>& name
 }
 
 bool IsFor(const Bulletin& bulletin, std::string_view postal_code) {
-  const Place* const place = FindPlace(postal_code);
+  const std::optional<Place> place = FindPlace(postal_code);
   const std::string county =
       place ? LowerCase(std::string(place->state) + ' ' + std::string(place->county)) : "";
   return std::any_of(bulletin.places.begin(), bulletin.places.end(), [&](const std::string& name) {

@@ -47,7 +47,7 @@ Moment ForecastAt(const Spot& spot, Date gmt, std::uint64_t seed) {
 
 // The newest observation: one every 20 minutes, in every town at minutes of its own.
 Date ObservationTime(const Spot& spot, Date now) {
-  const std::int64_t phase = spot.place->minute * kMinute;
+  const std::int64_t phase = spot.place.minute * kMinute;
   return {FloorTo({now.seconds - phase}, kObservationSeconds).seconds + phase};
 }
 
@@ -63,9 +63,9 @@ std::string MetaXml(const std::vector<Spot>& spots, Date now) {
 std::string CurrentXml(const std::vector<Spot>& spots, Date now, std::uint64_t seed) {
   XmlDocument xml("current");
   for (const Spot& spot : spots) {
-    for (const std::string_view city : {spot.place->station, spot.place->city}) {
+    for (const std::string& city : {StationOf(spot.place), std::string(spot.place.city)}) {
       xml.Add("City", city);
-      xml.Add("State", spot.place->state);
+      xml.Add("State", spot.place.state);
     }
     AddRow(xml, ReadingAt(spot, ObservationTime(spot, now), seed), kCurrentTags);
   }
@@ -98,7 +98,7 @@ std::string SingleHourXml(const std::vector<Spot>& spots, std::string_view hour_
   Date hour;
   if (!TryReadDate(hour_text, hour)) return std::move(xml).Finish();
   for (const Spot& spot : spots) {
-    const Moment moment = ForecastAt(spot, GmtOf(*spot.place, hour), seed);
+    const Moment moment = ForecastAt(spot, GmtOf(spot.place, hour), seed);
     AddRow(xml, moment, kHourlyTags);
     AddRow(xml, moment, kStopTags);
   }
@@ -145,11 +145,11 @@ std::vector<Spot> SpotsOf(const Query& query) {
   if (query.Has("lat") && query.Has("long")) {
     const Point point{std::clamp(LenientNumber(query.First("lat")), -90.0, 90.0),
                       std::clamp(LenientNumber(query.First("long")), -180.0, 180.0)};
-    return {{point, &NearestPlace(point)}};
+    return {{point, NearestPlace(point)}};
   }
   for (const std::string_view postal_code : query.All("pc")) {
-    const Place* const place = FindPlace(postal_code);
-    if (place) spots.push_back({place->point, place});
+    const std::optional<Place> place = FindPlace(postal_code);
+    if (place) spots.push_back({place->point, *place});
   }
   return spots;
 }

@@ -8,7 +8,7 @@
 
 #include "base/dates.h"
 #include "feedserver/canvas.h"
-#include "feedserver/places.h"
+#include "feedserver/sites.h"
 
 namespace skyloft::feed {
 

@@ -31,7 +31,7 @@ struct Column {
 
 constexpr std::array<Column, 18> kColumns = {{
     {"Ut", [](const Moment& m) { return Stamp(m.gmt); }},
-    {"Lt", [](const Moment& m) { return Stamp(LocalTime(*m.spot.place, m.gmt)); }},
+    {"Lt", [](const Moment& m) { return Stamp(LocalTime(m.spot.place, m.gmt)); }},
     {"SkyID", [](const Moment& m) { return NumberText(m.code); }},
     {"Desc", [](const Moment& m) { return std::string(PhraseOf(m.code).text); }},
     {"Ic", [](const Moment& m) { return std::string(PhraseOf(m.code).icon); }},
@@ -49,7 +49,7 @@ constexpr std::array<Column, 18> kColumns = {{
     {"Avg_L", [](const Moment& m) { return Whole(NormalsAt(m.spot.point, m.gmt).low); }},
     {"city_state",
      [](const Moment& m) {
-       return std::string(m.spot.place->city).append(", ").append(m.spot.place->state);
+       return std::string(m.spot.place.city).append(", ").append(m.spot.place.state);
      }},
 }};
 

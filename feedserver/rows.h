@@ -15,7 +15,7 @@ namespace skyloft::feed {
 // A point asked for, and the place whose names and clock it has.
 struct Spot {
   Point point;
-  const Place* place;
+  Place place;
 };
 
 // One row of a table: the weather of a moment, and the code of its sky.

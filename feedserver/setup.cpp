@@ -39,7 +39,7 @@ std::string HostsXml(const World& world) {
 
 std::string LocationXml(const Query& query, Date now) {
   XmlDocument xml("location");
-  const Place* const place =
+  const std::optional<Place> place =
       query.Has("pc") ? FindPlace(query.First("pc")) : FindPlace(query.First("city"), query.First("state"));
   if (!place) return std::move(xml).Finish();
   xml.Add("postal_code", place->postal_code);
@@ -51,9 +51,9 @@ std::string LocationXml(const Query& query, Date now) {
   xml.Add("latitude", NumberText(place->point.latitude));
   xml.Add("longitude", NumberText(place->point.longitude));
   xml.Add("nws_office", place->office);
-  xml.Add("radar_station_code", place->radar.code);
-  xml.Add("radar_station_lat", NumberText(place->radar.point.latitude));
-  xml.Add("radar_station_long", NumberText(place->radar.point.longitude));
+  xml.Add("radar_station_code", place->radar->code);
+  xml.Add("radar_station_lat", NumberText(place->radar->point.latitude));
+  xml.Add("radar_station_long", NumberText(place->radar->point.longitude));
   xml.Add("nws_radar_server", kRadarServer);
   xml.Add("state_long", place->state_name);
   xml.Add("dst_ind", IsDaylightTime(*place, now) ? "1" : "0");

@@ -87,7 +87,7 @@ TEST(Current, ReadingIsOfTheMomentOfItsStamp) {
 }
 
 TEST(Current, PointHasTheNamesOfThePlaceNearby) {
-  const Elements current = Ask("t=xml&d=current&lat=39.05&long=-95.1");
+  const Elements current = Ask("t=xml&d=current&lat=38.97&long=-95.24");
   EXPECT_EQ(Values(current, "City").size(), 2u);
   EXPECT_EQ(Values(current, "City")[1], "Lawrence");
   EXPECT_EQ(Values(current, "Tf").size(), 1u);

@@ -10,7 +10,7 @@ namespace skyloft::feed {
 namespace {
 
 std::string WindOf(double from, double speed) {
-  Moment moment{{{}, FindPlace("66044")}, MakeDate(2003, 3, 7), {}, 1};
+  Moment moment{{{}, *FindPlace("66044")}, MakeDate(2003, 3, 7), {}, 1};
   moment.weather.wind_from = from;
   moment.weather.wind_speed = speed;
   XmlDocument xml("row");
