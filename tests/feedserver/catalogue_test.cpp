@@ -5,11 +5,8 @@
 #include <set>
 
 #include "base/values.h"
-#include "client_map.h"
 #include "feedserver/answer.h"
-#include "feedserver/places.h"
 #include "feedserver/products.h"
-#include "sample_places.h"
 #include "scan.h"
 
 namespace skyloft::feed {
@@ -199,99 +196,6 @@ TEST(Catalogue, DaysEndAtTheSameHourInEveryRun) {
       }
     }
     EXPECT_EQ(found, day_ends.size());
-  }
-}
-
-struct Edges {
-  std::string id;
-  double xmin, xmax, ymin, ymax;
-};
-
-std::vector<Edges> SectorEdges() {
-  const Elements sectors = Ask("/sectors.12z.sys");
-  std::vector<std::vector<std::string>> columns;
-  for (const char* tag : {"sector", "xmin", "xmax", "ymin", "ymax"}) columns.push_back(Values(sectors, tag));
-  std::vector<Edges> edges;
-  for (std::size_t i = 0; i < columns[0].size(); ++i) {
-    edges.push_back({columns[0][i], StrictNumber(columns[1][i]), StrictNumber(columns[2][i]),
-                     StrictNumber(columns[3][i]), StrictNumber(columns[4][i])});
-  }
-  return edges;
-}
-
-TEST(Sectors, NationalOneIsFirstAndHoldsTheLower48) {
-  const Edges national = SectorEdges().front();
-  EXPECT_EQ(national.id, "200");
-  const double corners[][2] = {{48.16, -124.73}, {44.82, -66.95},  {24.54, -81.80},
-                               {25.84, -97.40},  {32.53, -117.12}, {49.38, -95.15},
-                               {47.46, -69.22},  {40.44, -124.41}, {38.95, -123.74}};
-  for (const auto& [latitude, longitude] : corners) {
-    const ClientPoint point = ClientMap(latitude, longitude);
-    EXPECT_GT(point.x, national.xmin + 100e3) << latitude;
-    EXPECT_LT(point.x, national.xmax - 100e3) << latitude;
-    EXPECT_GT(point.y, national.ymin + 100e3) << latitude;
-    EXPECT_LT(point.y, national.ymax - 100e3) << latitude;
-  }
-}
-
-TEST(Sectors, HaveSquarePixelsAndNamesOfTheirOwn) {
-  std::set<std::string> ids;
-  for (const Edges& edges : SectorEdges()) {
-    EXPECT_TRUE(ids.insert(edges.id).second) << edges.id;
-    EXPECT_EQ(edges.id.size(), 3u);
-    EXPECT_DOUBLE_EQ((edges.xmax - edges.xmin) / 640, (edges.ymax - edges.ymin) / 480) << edges.id;
-  }
-}
-
-TEST(Sectors, EverySampleTownLiesInOneOfEachFamilyAndSomeInTwo) {
-  int in_two = 0;
-  for (const char family : {'1', '3', '4'}) {
-    for (const char* postal_code : kSampleZips) {
-      const Place place = *FindPlace(postal_code);
-      const ClientPoint point = ClientMap(place.point.latitude, place.point.longitude);
-      int holding = 0;
-      for (const Edges& edges : SectorEdges()) {
-        holding += edges.id[0] == family && point.x >= edges.xmin && point.x <= edges.xmax &&
-                   point.y >= edges.ymin && point.y <= edges.ymax;
-      }
-      EXPECT_GE(holding, 1) << place.city << ' ' << family;
-      in_two += holding > 1;
-    }
-  }
-  EXPECT_GE(in_two, 3);
-}
-
-// By the choice of a client: of the family's rectangles around it the one with the nearest middle.
-TEST(Sectors, EverySampleTownIsInSightOnTheMapThatAClientChooses) {
-  for (const char family : {'1', '3', '4'}) {
-    for (const char* postal_code : kSampleZips) {
-      const Place place = *FindPlace(postal_code);
-      const ClientPoint point = ClientMap(place.point.latitude, place.point.longitude);
-      double best = 1e9;
-      Edges chosen;
-      for (const Edges& edges : SectorEdges()) {
-        const double distance =
-            std::hypot(point.x - (edges.xmin + edges.xmax) / 2, point.y - (edges.ymin + edges.ymax) / 2);
-        if (edges.id[0] != family || point.x < edges.xmin || point.x > edges.xmax || point.y < edges.ymin ||
-            point.y > edges.ymax || distance >= best)
-          continue;
-        best = distance;
-        chosen = edges;
-      }
-      const double x = (point.x - chosen.xmin) / (chosen.xmax - chosen.xmin) * 640;
-      const double y = (chosen.ymax - point.y) / (chosen.ymax - chosen.ymin) * 480;
-      EXPECT_TRUE(x > 4 && x < 600 && y > 46 && y < 372)
-          << place.city << ' ' << chosen.id << ' ' << x << ' ' << y;
-    }
-  }
-}
-
-TEST(Sectors, ProductsHaveFamiliesThatThereAre) {
-  std::set<char> families;
-  for (const Edges& edges : SectorEdges()) families.insert(edges.id[0]);
-  for (const Row& row : RowsOf(Products("18"))) {
-    EXPECT_EQ(row.id.size(), 1u) << row.product;
-    EXPECT_TRUE(families.contains(row.id[0])) << row.product;
   }
 }
 
