@@ -133,6 +133,18 @@ void SetUpTowns(const Folder& folder, const QStringList& options) {
   ASSERT_EQ(folder.Setting("Settings/LocationIndexMax"), "4");
 }
 
+QByteArray ActsOfTheFirstPages() {
+  const QByteArray next = "click SetupWizardForm.NextButton\n";
+  return next + "type SetupWizardForm.EmailAddress1 a\ntype SetupWizardForm.EmailAddress2 a\n" + next;
+}
+
+QByteArray ActsOfATown(const QByteArray& zip_code, const QByteArray& title) {
+  const QByteArray next = "click SetupWizardForm.NextButton\n";
+  return "type SetupWizardForm.ZipCodeInput " + zip_code + "\n" + next + next +
+         "check SetupWizardForm.TornadoWarning 1\n" + next + next + "type SetupWizardForm.TitleResult " +
+         title + "\n" + next;
+}
+
 bool Within(int milliseconds, const std::function<bool()>& reached) {
   QElapsedTimer clock;
   clock.start();
