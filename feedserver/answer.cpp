@@ -32,7 +32,7 @@ Reply AnswerBulletins(const Request& request, const World& world) {
   auto bulletins = world.bulletins ? world.bulletins(request.now) : std::vector<Bulletin>();
   if (world.storms) {
     for (const std::string_view postal_code : query.All("pc")) {
-      const Place* const place = FindPlace(postal_code);
+      const std::optional<Place> place = FindPlace(postal_code);
       if (!place) continue;
       for (Bulletin& bulletin : StormBulletins(*place, request.now, world.seed)) {
         bulletins.push_back(std::move(bulletin));
@@ -79,8 +79,7 @@ std::vector<Request> RequestsAfter(const Request& request) {
   for (const std::string_view postal_code : query.All("pc")) {
     const std::optional<Place> place = FindPlace(postal_code);
     if (place) {
-      requests.push_back(
-          {RadarPath({RadarProduct::Reflectivity, place->radar}), "", RadarTime(request.now)});
+      requests.push_back({RadarPath({RadarProduct::Reflectivity, place->radar}), "", RadarTime(request.now)});
     }
   }
   return requests;

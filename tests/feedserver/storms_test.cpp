@@ -13,7 +13,7 @@ namespace skyloft::feed {
 namespace {
 
 constexpr std::uint64_t kSeed = 8;
-const Place& Lawrence() { return *FindPlace("66044"); }
+Place Lawrence() { return *FindPlace("66044"); }
 
 const Bulletin* Find(const std::vector<Bulletin>& bulletins, const char* type) {
   const auto found = std::ranges::find(bulletins, type, &Bulletin::type);
@@ -22,20 +22,20 @@ const Bulletin* Find(const std::vector<Bulletin>& bulletins, const char* type) {
 
 // The first bulletin of a kind in a summer.
 struct Storm {
-  const Place* place = nullptr;
+  Place place;
   Bulletin bulletin;
 };
 Storm FirstStorm(const char* type) {
   for (const char* postal_code : {"66044", "80202", "33131"}) {
-    const Place* const place = FindPlace(postal_code);
+    const Place place = *FindPlace(postal_code);
     for (int hour = 0; hour < 92 * 24; ++hour) {
       const Date now = DateAdd(DateUnit::Hours, hour, MakeDate(2003, 6, 1));
-      const auto bulletins = StormBulletins(*place, now, kSeed);
+      const auto bulletins = StormBulletins(place, now, kSeed);
       if (const Bulletin* found = Find(bulletins, type)) return {place, *found};
     }
   }
   ADD_FAILURE() << "no " << type;
-  return {&Lawrence(), {}};
+  return {Lawrence(), {}};
 }
 
 constexpr const char* kTypes[] = {"TOR", "SVR", "FFW", "WTO", "WSV", "FFA"};
@@ -44,7 +44,7 @@ TEST(Storms, EachKindOccursAndBeginsWithTheWordThatItIsSimulated) {
   for (const char* type : kTypes) {
     const Storm storm = FirstStorm(type);
     EXPECT_TRUE(storm.bulletin.text.starts_with("SIMULATED. THE NATIONAL WEATHER SERVICE HAS ISSUED A "));
-    EXPECT_NE(storm.bulletin.text.find(UpperCase(storm.place->county) + " COUNTY"), std::string::npos);
+    EXPECT_NE(storm.bulletin.text.find(UpperCase(storm.place.county) + " COUNTY"), std::string::npos);
     EXPECT_LT(storm.bulletin.issued, storm.bulletin.expires);
   }
 }
@@ -54,7 +54,7 @@ TEST(Storms, ABulletinKeepsItsTimesAndItsTextUntilItExpires) {
     const Storm storm = FirstStorm(type);
     for (Date now = storm.bulletin.issued; now < storm.bulletin.expires;
          now = DateAdd(DateUnit::Minutes, 5, now)) {
-      const auto bulletins = StormBulletins(*storm.place, now, kSeed);
+      const auto bulletins = StormBulletins(storm.place, now, kSeed);
       const Bulletin* found = Find(bulletins, type);
       ASSERT_TRUE(found) << type << " at " << DateText(now);
       ASSERT_EQ(found->issued, storm.bulletin.issued) << type << " at " << DateText(now);
@@ -95,7 +95,7 @@ TEST(Storms, TornadoesAreRarerThanThunderstormsAndBothAreSummersWeather) {
 TEST(Storms, AreToldByTheServerOnlyWhenItIsAskedTo) {
   const Storm storm = FirstStorm("SVR");
   const Date now = storm.bulletin.issued;
-  const std::string query = "pc=" + std::string(storm.place->postal_code) + "&t=xml";
+  const std::string query = "pc=" + std::string(storm.place.postal_code) + "&t=xml";
   EXPECT_TRUE(Scan(Answer({"/bulletins.asp", query, now}, {.seed = kSeed}).body).empty());
   const Elements told = Scan(Answer({"/bulletins.asp", query, now}, {.seed = kSeed, .storms = true}).body);
   const auto types = Values(told, "Type");
@@ -110,7 +110,7 @@ bool IsStormy(const std::string& phrase) {
 // One storm, seen by everything that looks at the weather.
 TEST(Storms, ReadingHourRadarAndWarningAgreeOnOne) {
   const Storm storm = FirstStorm("SVR");
-  const Place& place = *storm.place;
+  const Place& place = storm.place;
   const Date issued = storm.bulletin.issued;
   const std::string query = "pc=" + std::string(place.postal_code) + "&";
 
@@ -133,9 +133,9 @@ TEST(Storms, ReadingHourRadarAndWarningAgreeOnOne) {
   EXPECT_TRUE(has_stormy_hour);
 
   const Reply reply =
-      Answer({RadarPath({RadarProduct::Reflectivity, &place.radar}), "", issued}, {.seed = kSeed});
+      Answer({RadarPath({RadarProduct::Reflectivity, place.radar}), "", issued}, {.seed = kSeed});
   const Canvas radar = DecodeGif(reply.body);
-  const Pixel town = RadarPixel(place.radar, place.point);
+  const Pixel town = RadarPixel(*place.radar, place.point);
   int echoes = 0;
   for (int dx = -12; dx <= 12; ++dx) {
     for (int dy = -12; dy <= 12; ++dy) {
