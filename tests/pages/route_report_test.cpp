@@ -257,6 +257,7 @@ TEST_F(RouteReport, TheWindIsTurnedOnceAndWhatHasNoDigitStays) {
 
 TEST_F(RouteReport, TellsItsProgress) {
   for (int i = 0; i < 3; ++i) Stop(i, 0);
+  MainForm.ProgressBar.SetPosition(100, 70);  // of the route before
   std::vector<std::pair<int, std::string>> told;
   Doubles.during_fetch = [&](const std::string&) {
     told.emplace_back(MainForm.ProgressBar.Value, MainForm.ProductTitle.Caption);
