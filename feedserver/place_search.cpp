@@ -35,8 +35,10 @@ std::string FoldedTown(std::string_view name) {
 
 NameIndex::NameIndex(const PlaceTable& table) : table_(table) {
   std::vector<std::size_t> hashes;
+  hashes.reserve(table.Cities().size());
   for (const std::string_view city : table.Cities())
     hashes.push_back(std::hash<std::string>()(FoldedTown(city)));
+  entries_.reserve(table.Records().size());
   for (const PlaceRecord& record : table.Records())
     entries_.push_back({hashes[record.city], static_cast<std::uint32_t>(entries_.size())});
   std::ranges::sort(entries_);
@@ -54,6 +56,7 @@ const PlaceRecord* NameIndex::Find(std::string_view city, std::string_view state
 }
 
 PointIndex::PointIndex(const PlaceTable& table) : table_(table) {
+  entries_.reserve(table.Records().size());
   for (const PlaceRecord& record : table.Records()) {
     const Point point = record.Middle();
     entries_.push_back({point.latitude, static_cast<std::uint32_t>(entries_.size()), DirectionOf(point)});

@@ -22,7 +22,7 @@ struct PlaceRecord {
   Point Middle() const { return {latitude / 1e4, longitude / 1e4}; }
 };
 
-// About a megabyte and a half.
+// About a megabyte and a half when decoded.
 class PlaceTable {
  public:
   PlaceTable();  // decodes it
