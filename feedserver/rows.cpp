@@ -48,9 +48,7 @@ constexpr std::array<Column, 18> kColumns = {{
     {"Avg_H", [](const Moment& m) { return Whole(NormalsAt(m.spot.point, m.gmt).high); }},
     {"Avg_L", [](const Moment& m) { return Whole(NormalsAt(m.spot.point, m.gmt).low); }},
     {"city_state",
-     [](const Moment& m) {
-       return std::string(m.spot.place.city).append(", ").append(m.spot.place.state);
-     }},
+     [](const Moment& m) { return std::string(m.spot.place.city).append(", ").append(m.spot.place.state); }},
 }};
 
 }  // namespace

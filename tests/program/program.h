@@ -77,8 +77,8 @@ Ending RunInRoot(const Folder& folder, QStringList options, const QByteArray& sc
 // The same, as it must end with code 0: makes the five towns known.
 void SetUpTowns(const Folder& folder, const QStringList& options = {});
 
-// Acts of a user in the wizard, as lines of a script: from its start to the page of the place, which the first
-// town of all needs, and from there to the end of the setup of a town.
+// Acts of a user in the wizard, as lines of a script: from its start to the page of the place, which the
+// first town of all needs, and from there to the end of the setup of a town.
 QByteArray ActsOfTheFirstPages();
 QByteArray ActsOfATown(const QByteArray& zip_code, const QByteArray& title);
 
