@@ -142,7 +142,7 @@ TEST(Places, AnHourOfAPlacesClockIsFoundAgain) {
                           MakeDate(2008, 3, 9, 8), MakeDate(2008, 11, 2, 6)};
   for (const char* zip : {"66044", "33131", "80202", "98101", "96813"}) {
     for (const Date gmt : moments) {
-      const Place& place = *FindPlace(zip);
+      const Place place = *FindPlace(zip);
       EXPECT_EQ(LocalTime(place, GmtOf(place, LocalTime(place, gmt))), LocalTime(place, gmt)) << zip;
     }
   }
