@@ -1,4 +1,5 @@
-// Bulletins of the National Weather Service as the server makes them up: only those that a file asks for.
+// Bulletins of the National Weather Service as the server makes them up: those that a file asks for. Those of
+// its own storms are made in storms.h.
 #pragma once
 
 #include <string>

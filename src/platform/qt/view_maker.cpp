@@ -33,6 +33,13 @@ Qt::Alignment AlignmentOf(const Label& label) {
   return Qt::AlignLeft | (label.Height > kOneLine ? Qt::AlignTop : Qt::AlignVCenter);
 }
 
+// A caption as a label of one line shows it: what does not fit ends in dots.
+QString Fitting(QLabel& label, const QString& caption, int width) {
+  if (label.wordWrap()) return caption;
+  label.ensurePolished();  // the skin's font
+  return label.fontMetrics().elidedText(caption, Qt::ElideRight, width);
+}
+
 }  // namespace
 
 // One procedure a kind of control: makes the widget, ties its signals to the model's acts, and tells how to
@@ -44,7 +51,7 @@ class ViewMaker : public ControlVisitor {
   void Visit(Label& model) override {
     auto* label = new ClickLabel(ParentOf(model));
     label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
+    label->setWordWrap(model.Height > kOneLine);
     label->setAlignment(AlignmentOf(model));
     if (model.Name() == "EmailLink") label->setCursor(Qt::PointingHandCursor);
     if (model.Click) label->clicked = [&model] { Raise([&] { model.Press(); }); };
@@ -52,7 +59,9 @@ class ViewMaker : public ControlVisitor {
     const QChar letter = window_.LetterOf(model);
     if (field && !letter.isNull()) waiting_[field] = label;
     Keep(model, label, [&model, label, letter] {
-      label->setText(letter.isNull() ? ToQt(model.Caption) : WithMnemonic(ToQt(model.Caption), letter));
+      const QString caption = ToQt(model.Caption);
+      label->setText(letter.isNull() ? Fitting(*label, caption, model.Width) : WithMnemonic(caption, letter));
+      label->setAccessibleName(label->text() == caption ? QString() : caption);
     });
   }
 

@@ -113,6 +113,26 @@ TEST_F(DialogKeys, ALabelShowsACaptionAsItStands) {
   EXPECT_EQ(label->textFormat(), Qt::PlainText) << "nothing in it is taken for a tag";
 }
 
+TEST_F(DialogKeys, ACaptionTooLongForItsLineEndsInDotsAndIsSpokenWhole) {
+  struct TitleForm : Form {
+    TitleForm() : Form("TitleForm", "", Border::None) {
+      Title.Width = 100;
+      Title.Height = 20;
+    }
+    Label Title{this, "Title"};
+  } form;
+  form.Title.Caption = "Town";
+  FormWindow window(form);
+  const auto* label = window.findChild<QLabel*>("Title");
+  EXPECT_EQ(label->text(), "Town");
+  form.Title.Caption = "A title that is far too long for so small a label";
+  window.ShowControl(form.Title);
+  EXPECT_TRUE(label->text().startsWith("A title"));
+  EXPECT_TRUE(label->text().endsWith(QChar(0x2026)));
+  EXPECT_LE(label->fontMetrics().horizontalAdvance(label->text()), 100);
+  EXPECT_EQ(label->accessibleName(), "A title that is far too long for so small a label");
+}
+
 TEST_F(DialogKeys, AWindowWithoutATitleBarHasNone) {
   struct BareForm : Form {
     BareForm() : Form("BareForm", "", Border::None) { OK.Caption = "A & B"; }

@@ -113,8 +113,9 @@ TEST_F(WindowOnADesktop, AWindowInTheScreensCornerStaysThereWhateverTheDesktopWo
     CornerForm() { Left = Top = 0; }
   };
   auto& corner = *new CornerForm();  // its window outlives the test
-  Show(corner);
-  Pass(200);
+  corner.Visible = true;  // the focus, which a desktop may refuse, plays no part
+  ASSERT_TRUE(Await([&] { return WindowOf(corner).isVisible(); }));
+  Pass(300);
   EXPECT_EQ(WindowOf(corner).frameGeometry().topLeft(), QPoint(0, 0));
   corner.Visible = false;
 }
