@@ -3,7 +3,7 @@
 namespace skyloft::feed {
 namespace {
 
-constexpr std::size_t kMostReplies = 64;  // kept; then all are forgotten
+constexpr std::size_t kMostReplies = 64;  // kept, then all are forgotten; and waiting to be made
 
 }  // namespace
 
@@ -34,7 +34,9 @@ Reply Ahead::Answer(const Request& request) {
 void Ahead::Expect(const std::vector<Request>& requests) {
   {
     const std::lock_guard lock(mutex_);
-    for (const Request& request : requests) work_.push_back(Find(request));
+    for (const Request& request : requests) {
+      if (work_.size() < kMostReplies) work_.push_back(Find(request));
+    }
   }
   has_work_.notify_one();
 }

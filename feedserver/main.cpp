@@ -44,7 +44,8 @@ int Serve(const std::vector<std::string>& arguments) {
   RequestLog log(options.log_file);
   Clock clock(options.now);
   bulletins.Read(clock.Now());
-  Server server({options.world, [&clock] { return clock.Now(); }, faults, log}, options.port);
+  Server server({options.world, [&clock] { return clock.Now(); }, faults, log}, options.address, options.port,
+                options.threads);
   std::cout << "listening " << server.Port() << std::endl;
   if (!options.stays) std::thread(HearInput, std::ref(clock)).detach();
   server.Run();

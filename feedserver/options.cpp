@@ -9,12 +9,13 @@ namespace skyloft::feed {
 namespace {
 
 template <class Number>
-Number ReadWhole(const std::string& text, Number most) {
+Number ReadWhole(const std::string& text, Number least, Number most) {
   Number number = 0;
   const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (text.empty() || read.ptr != text.data() + text.size() || read.ec != std::errc() || number < 0 ||
+  if (text.empty() || read.ptr != text.data() + text.size() || read.ec != std::errc() || number < least ||
       number > most) {
-    throw RuntimeError("no number from 0 to " + std::to_string(most) + ": " + text);
+    throw RuntimeError("no number from " + std::to_string(least) + " to " + std::to_string(most) + ": " +
+                       text);
   }
   return number;
 }
@@ -24,10 +25,14 @@ struct ValueOption {
   void (*set)(Options&, const std::string& value);
 };
 
-constexpr std::array<ValueOption, 8> kValueOptions = {{
-    {"--port", [](Options& o, const std::string& value) { o.port = ReadWhole(value, 65535); }},
+constexpr std::array<ValueOption, 10> kValueOptions = {{
+    {"--address", [](Options& o, const std::string& value) { o.address = value; }},
+    {"--port", [](Options& o, const std::string& value) { o.port = ReadWhole(value, 0, 65535); }},
+    {"--threads", [](Options& o, const std::string& value) { o.threads = ReadWhole(value, 1, 64); }},
     {"--seed",
-     [](Options& o, const std::string& value) { o.world.seed = ReadWhole(value, ~std::uint64_t{0}); }},
+     [](Options& o, const std::string& value) {
+       o.world.seed = ReadWhole(value, std::uint64_t{0}, ~std::uint64_t{0});
+     }},
     {"--now", [](Options& o, const std::string& value) { o.now = ReadDate(value); }},
     {"--log", [](Options& o, const std::string& value) { o.log_file = value; }},
     {"--fault", [](Options& o, const std::string& value) { o.faults.push_back(ReadFault(value)); }},
@@ -68,9 +73,12 @@ Options ReadOptions(const std::vector<std::string>& arguments) {
 }
 
 std::string_view HelpText() {
-  return R"(skyloft-feed: answers every query of Skyloft, on this machine alone, with simulated weather.
+  return R"(skyloft-feed: answers every query of Skyloft with simulated weather, to this machine alone.
 
-  --port N           listen on 127.0.0.1, port N; 0 is any free port (default 8080)
+  --port N           listen on port N; 0 is any free port (default 8080)
+  --address A        listen on another address than 127.0.0.1: 0.0.0.0 answers every machine that can reach
+                     this one, ::1 is this machine by IPv6
+  --threads N        answer N requests at once, 1 to 64 (default 4)
   --seed N           another weather; the same seed is always the same weather (default 1)
   --now TIME         the clock stands, at a time in GMT: 2003-03-07T14:05:00
   --log FILE         append one JSON line for each request

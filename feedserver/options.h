@@ -12,9 +12,11 @@
 namespace skyloft::feed {
 
 struct Options {
-  int port = 8080;          // 0 is any free one
-  World world;              // no file of it is read yet
-  std::optional<Date> now;  // the clock stands there; GMT
+  std::string address = "127.0.0.1";  // that it listens on
+  int port = 8080;                    // 0 is any free one
+  int threads = 4;                    // that answer at once, 1 to 64
+  World world;                        // no file of it is read yet
+  std::optional<Date> now;            // the clock stands there; GMT
   std::string log_file, update_file, bulletins_file;
   std::vector<Fault> faults;
   bool stays = false;  // does not end with its standard input

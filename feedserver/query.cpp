@@ -4,9 +4,14 @@
 #include <charconv>
 
 namespace skyloft::feed {
+namespace {
+
+constexpr std::size_t kMostFields = 64;  // no client has more; a hostile one would keep the server busy
+
+}  // namespace
 
 Query::Query(std::string_view text) {
-  while (!text.empty()) {
+  while (!text.empty() && fields_.size() < kMostFields) {
     const std::string_view field = text.substr(0, text.find('&'));
     text.remove_prefix(std::min(field.size() + 1, text.size()));
     const std::size_t equals = std::min(field.find('='), field.size());

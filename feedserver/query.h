@@ -1,4 +1,5 @@
-// The part of an address behind its "?": names and values in their order, with their escapes resolved.
+// The part of an address behind its "?": names and values in their order, with their escapes resolved;
+// the first 64 of them.
 #pragma once
 
 #include <string>

@@ -1,173 +1,93 @@
 #include "feedserver/server.h"
 
 #include <httplib.h>
-#include <netinet/tcp.h>
-#include <poll.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
-#include <chrono>
+#include <algorithm>
+#include <array>
 #include <string_view>
-#include <thread>
 
 #include "base/guard.h"
 #include "feedserver/ahead.h"
+#include "feedserver/connections.h"
 
 namespace skyloft::feed {
 namespace {
 
-constexpr char kAddress[] = "127.0.0.1";
-constexpr int kBacklog = 1024;  // connections waiting to be taken
-constexpr std::size_t kThreads = 8;
-constexpr int kPatienceMs = 2000;  // with a client that does not send or take its bytes
-constexpr auto kDripPause = std::chrono::milliseconds(100);
-
-bool WaitFor(int socket, short event, int patience_ms) {
-  pollfd wanted{socket, event, 0};
-  return poll(&wanted, 1, patience_ms) > 0;
-}
-
-bool SendAll(int socket, std::string_view bytes) {
-  while (!bytes.empty()) {
-    if (!WaitFor(socket, POLLOUT, kPatienceMs)) return false;
-    const ssize_t sent = send(socket, bytes.data(), bytes.size(), MSG_NOSIGNAL);
-    if (sent <= 0) return false;
-    bytes.remove_prefix(static_cast<std::size_t>(sent));
-  }
-  return true;
-}
-
-void CloseSocket(int socket) {
-  shutdown(socket, SHUT_RDWR);
-  close(socket);
-}
-
-// Says nothing until the client goes.
-void Hang(int socket) {
-  std::array<char, 256> ignored;
-  while (recv(socket, ignored.data(), ignored.size(), 0) > 0) {
-  }
-  CloseSocket(socket);
-}
-
-void Drip(int socket, const std::string& reply) {
-  for (const char& byte : reply) {
-    if (!SendAll(socket, {&byte, 1})) break;
-    std::this_thread::sleep_for(kDripPause);
-  }
-  CloseSocket(socket);
-}
-
-// One client. Replies with a fault of the connection are held back, to be spoiled as a whole.
-class Connection : public httplib::Stream {
+// A request that has come and the reply to it, for a library that wants to read and write them.
+class Exchange : public httplib::Stream {
  public:
-  explicit Connection(int socket) : socket_(socket) {}
+  explicit Exchange(std::string_view request) : request_(request) {}
 
   void Befall(FaultKind fault) { fault_ = fault; }
 
-  // Ends the connection, or hands it to a thread of its own so that no fault keeps others waiting.
-  void Finish() {
+  // What the client is to get under the fault.
+  Outgoing Finish() {
     switch (fault_) {
-      case FaultKind::Hang: std::thread(Hang, socket_).detach(); return;
-      case FaultKind::Drip: std::thread(Drip, socket_, std::move(held_)).detach(); return;
-      case FaultKind::Cut: SendAll(socket_, WithoutHalfOfBody(held_)); break;
+      case FaultKind::Refuse: return {};
+      case FaultKind::Hang: return {.bytes = {}, .pace = Pace::Never};
+      case FaultKind::Drip: return {.bytes = std::move(reply_), .pace = Pace::Drip};
+      case FaultKind::Cut: CutBody(); break;
       default: break;
     }
-    CloseSocket(socket_);
+    return {.bytes = std::move(reply_)};
   }
 
-  bool is_readable() const override { return begin_ < end_ || WaitFor(socket_, POLLIN, kPatienceMs); }
-  bool is_writable() const override { return WaitFor(socket_, POLLOUT, kPatienceMs); }
-
-  // The library reads headers byte by byte, so these come out of a buffer.
+  bool is_readable() const override { return !request_.empty(); }
+  bool is_writable() const override { return true; }
   ssize_t read(char* bytes, std::size_t size) override {
-    if (begin_ == end_ && !Fill()) return -1;
-    const std::size_t count = std::min(size, end_ - begin_);
-    std::copy_n(buffer_.begin() + static_cast<std::ptrdiff_t>(begin_), count, bytes);
-    begin_ += count;
+    const std::size_t count = request_.copy(bytes, size);
+    request_.remove_prefix(count);
     return static_cast<ssize_t>(count);
   }
-
   ssize_t write(const char* bytes, std::size_t size) override {
-    if (HoldsBack()) {
-      held_.append(bytes, size);
-    } else if (!SendAll(socket_, {bytes, size})) {
-      return -1;
-    }
+    reply_.append(bytes, size);
     return static_cast<ssize_t>(size);
   }
-
-  void get_remote_ip_and_port(std::string& ip, int& port) const override { ip = kAddress, port = 0; }
-  void get_local_ip_and_port(std::string& ip, int& port) const override { ip = kAddress, port = 0; }
-  socket_t socket() const override { return socket_; }
+  void get_remote_ip_and_port(std::string& ip, int& port) const override { ip.clear(), port = 0; }
+  void get_local_ip_and_port(std::string& ip, int& port) const override { ip.clear(), port = 0; }
+  socket_t socket() const override { return INVALID_SOCKET; }
 
  private:
-  bool HoldsBack() const {
-    return fault_ == FaultKind::Refuse || fault_ == FaultKind::Cut || fault_ == FaultKind::Hang ||
-           fault_ == FaultKind::Drip;
+  void CutBody() {
+    const std::size_t body_at = std::min(reply_.find("\r\n\r\n") + 4, reply_.size());
+    reply_.resize(body_at + (reply_.size() - body_at) / 2);
   }
 
-  static std::string_view WithoutHalfOfBody(std::string_view reply) {
-    const std::size_t body_at = std::min(reply.find("\r\n\r\n") + 4, reply.size());
-    return reply.substr(0, body_at + (reply.size() - body_at) / 2);
-  }
-
-  bool Fill() {
-    if (!WaitFor(socket_, POLLIN, kPatienceMs)) return false;
-    const ssize_t count = recv(socket_, buffer_.data(), buffer_.size(), 0);
-    begin_ = 0;
-    end_ = count > 0 ? static_cast<std::size_t>(count) : 0;
-    return count > 0;
-  }
-
-  int socket_;
+  std::string_view request_;
+  std::string reply_;
   FaultKind fault_ = FaultKind::None;
-  std::string held_;
-  std::array<char, 4096> buffer_;
-  std::size_t begin_ = 0, end_ = 0;
 };
 
-// The library hands a request to its handler without the connection it came from; a thread has one at a time.
-thread_local Connection* current_connection = nullptr;
+// The library hands a request to its handler without the stream it came from; a thread has one at a time.
+thread_local Exchange* current_exchange = nullptr;
+
+// "Fri, 07 Mar 2003 20:05:00 GMT". Source: RFC 9110, section 5.6.7.
+std::string HttpDate(Date gmt) { return Format(gmt, "ddd, dd mmm yyyy hh:nn:ss") + " GMT"; }
 
 }  // namespace
 
-class Server::Http : public httplib::Server {
+// The library reads the request and writes the reply; the connections are our own.
+class Server::Http : private httplib::Server {
  public:
-  explicit Http(Service service) : service_(std::move(service)) {
-    new_task_queue = [] { return new httplib::ThreadPool(kThreads); };
+  Http(Service service, const std::string& address, int port, int threads)
+      : service_(std::move(service)),
+        connections_(address, port, threads, [this](const std::string& head) { return Exchanged(head); }) {
     set_pre_routing_handler([this](const httplib::Request& request, httplib::Response& response) {
       Handle(request, response);
       return HandlerResponse::Handled;
     });
-    // Not the library's options, which would let two servers share a port.
-    set_socket_options([this](socket_t socket) {
-      const int on = 1;
-      setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on);
-      setsockopt(socket, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
-      listener_ = socket;
-    });
   }
 
-  void Bind(int port) {
-    port_ = port == 0 ? bind_to_any_port(kAddress) : bind_to_port(kAddress, port) ? port : -1;
-    // The library lets five connections wait; a burst needs more.
-    if (port_ < 0 || ::listen(listener_, kBacklog) != 0) {
-      throw RuntimeError("cannot listen on port " + std::to_string(port));
-    }
-  }
-
-  int Port() const { return port_; }
+  int Port() const { return connections_.Port(); }
+  void Run() { connections_.Run(); }
 
  private:
-  bool process_and_close_socket(socket_t socket) override {
-    Connection connection(socket);
-    current_connection = &connection;
+  Outgoing Exchanged(const std::string& head) {
+    Exchange exchange(head);
+    current_exchange = &exchange;
     bool is_closed = false;
-    const bool is_done = process_request(connection, true, is_closed, nullptr);
-    current_connection = nullptr;
-    connection.Finish();
-    return is_done;
+    if (!Guarded([&] { process_request(exchange, true, is_closed, nullptr); })) return {};
+    return exchange.Finish();
   }
 
   void Handle(const httplib::Request& request, httplib::Response& response) {
@@ -175,18 +95,28 @@ class Server::Http : public httplib::Server {
     Request asked{request.path, request.target.substr(std::min(question + 1, request.target.size())),
                   service_.clock()};
     const FaultKind fault = service_.faults.Befall(asked.path, asked.query);
-    Reply reply = AnswerOrFail(request, asked);
-    reply = Spoil(fault, std::move(reply));
-    current_connection->Befall(fault);
+    Reply reply = Spoil(fault, AnswerOrFail(request, asked));
+    current_exchange->Befall(fault);
     WriteLog(request, asked, reply, fault);
+    // Whoever asks for parts gets the whole, as the protocol allows: a thousand parts of a picture would be a
+    // thousand pictures.
+    const_cast<httplib::Request&>(request).ranges.clear();
     response.status = reply.status;
     response.body = std::move(reply.body);
     response.set_header("Content-Type", reply.type);
+    response.set_header("Accept-Ranges", "none");
+    response.set_header("Date", HttpDate(asked.now));
+    if (reply.status == kNotAllowed) response.set_header("Allow", "GET, HEAD");
   }
+
+  static constexpr int kNotAllowed = 405;
 
   Reply AnswerOrFail(const httplib::Request& request, const Request& asked) {
     if (request.method != "GET" && request.method != "HEAD") {
-      return {.status = 405, .type = "text/plain", .body = "only GET is answered\n"};
+      return {.status = kNotAllowed, .type = "text/plain", .body = "only GET is answered\n"};
+    }
+    if (request.version == "HTTP/1.1" && !request.has_header("Host")) {
+      return {.status = 400, .type = "text/plain", .body = "a request of HTTP/1.1 names its host\n"};
     }
     Reply reply;
     const auto answer = [&] {
@@ -212,15 +142,13 @@ class Server::Http : public httplib::Server {
 
   Service service_;
   Ahead ahead_{[this](const Request& request) { return Answer(request, service_.world); }};
-  socket_t listener_ = -1;
-  int port_ = -1;
+  Connections connections_;  // the last: its threads end before what they use
 };
 
-Server::Server(Service service, int port) : http_(std::make_unique<Http>(std::move(service))) {
-  http_->Bind(port);
-}
+Server::Server(Service service, const std::string& address, int port, int threads)
+    : http_(std::make_unique<Http>(std::move(service), address, port, threads)) {}
 Server::~Server() = default;
 int Server::Port() const { return http_->Port(); }
-void Server::Run() { http_->listen_after_bind(); }
+void Server::Run() { http_->Run(); }
 
 }  // namespace skyloft::feed

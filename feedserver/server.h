@@ -1,8 +1,9 @@
-// The socket of the server: HTTP on 127.0.0.1, a reply a connection.
+// The server: requests of HTTP/1.0 and 1.1, one a connection, answered from the world.
 #pragma once
 
 #include <functional>
 #include <memory>
+#include <string>
 
 #include "feedserver/answer.h"
 #include "feedserver/faults.h"
@@ -20,8 +21,9 @@ struct Service {
 
 class Server {
  public:
-  // Port 0 is any free one. Raises when the port is taken.
-  Server(Service service, int port);
+  // Listens on a numeric address; port 0 is any free one. That many threads answer at once. Raises when the
+  // port is taken.
+  Server(Service service, const std::string& address, int port, int threads);
   ~Server();
   int Port() const;
   // Answers until the process ends.

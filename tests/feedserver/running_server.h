@@ -13,6 +13,7 @@
 #include <array>
 #include <chrono>
 #include <cstdlib>
+#include <fstream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -73,6 +74,14 @@ class RunningServer {
     return ReadLine();
   }
 
+  // Of its memory, kilobytes.
+  long Resident() const {
+    std::ifstream file("/proc/" + std::to_string(process_) + "/statm");
+    long size = 0, resident = 0;
+    file >> size >> resident;
+    return resident * sysconf(_SC_PAGESIZE) / 1024;
+  }
+
   // The exit status, or -1 when the process is still there after the patience.
   int ExitStatus(std::chrono::milliseconds patience) {
     const auto end = std::chrono::steady_clock::now() + patience;
@@ -105,19 +114,26 @@ class RunningServer {
 
 class Client {
  public:
+  // Connects and says nothing yet.
+  explicit Client(int port) { Connect(port, "127.0.0.1"); }
   // Connects and sends a request of HTTP/1.0.
-  Client(int port, const std::string& target) : socket_(socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_port = htons(static_cast<std::uint16_t>(port));
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    EXPECT_EQ(connect(socket_, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
-    const std::string request = "GET " + target + " HTTP/1.0\r\nUser-Agent: plain \"client\"\r\n\r\n";
-    EXPECT_EQ(send(socket_, request.data(), request.size(), MSG_NOSIGNAL),
-              static_cast<ssize_t>(request.size()));
+  Client(int port, const std::string& target, const char* host = "127.0.0.1") {
+    Connect(port, host);
+    EXPECT_TRUE(Send("GET " + target + " HTTP/1.0\r\nUser-Agent: plain \"client\"\r\n\r\n"));
   }
   Client(const Client&) = delete;
   ~Client() { close(socket_); }
+
+  // Whether the server's side took all of it.
+  bool Send(std::string_view bytes) const {
+    return send(socket_, bytes.data(), bytes.size(), MSG_NOSIGNAL) == static_cast<ssize_t>(bytes.size());
+  }
+
+  // Goes at once, without the usual farewell, which would keep its port for a minute.
+  void Abort() const {
+    const linger at_once{1, 0};
+    setsockopt(socket_, SOL_SOCKET, SO_LINGER, &at_once, sizeof at_once);
+  }
 
   // What comes until the server closes or the patience ends.
   std::string Receive(std::chrono::milliseconds patience = std::chrono::seconds(20)) {
@@ -141,11 +157,21 @@ class Client {
   bool IsClosed() const { return is_closed_; }
 
  private:
-  int socket_;
+  void Connect(int port, const char* host) {
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_port = htons(static_cast<std::uint16_t>(port));
+    EXPECT_EQ(inet_pton(AF_INET, host, &address.sin_addr), 1);
+    EXPECT_EQ(connect(socket_, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
+  }
+
+  int socket_ = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
   bool is_closed_ = false;
 };
 
-inline std::string Get(int port, const std::string& target) { return Client(port, target).Receive(); }
+inline std::string Get(int port, const std::string& target, const char* host = "127.0.0.1") {
+  return Client(port, target, host).Receive();
+}
 inline std::string BodyOf(const std::string& reply) {
   return reply.substr(std::min(reply.find("\r\n\r\n") + 4, reply.size()));
 }

@@ -1,0 +1,159 @@
+// Clients that mean ill: whatever they do, others are answered and the server stays as small as it was.
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <random>
+
+#include "running_server.h"
+
+namespace skyloft::feed {
+namespace {
+
+constexpr char kTarget[] = "/forecast.asp?t=xml&d=current&pc=66044";
+constexpr long kGrowth = 24 << 10;  // kilobytes that memory may be above the first reading
+
+using Clients = std::vector<std::unique_ptr<Client>>;
+
+Clients Connect(const RunningServer& server, int count) {
+  Clients clients;
+  for (int i = 0; i < count; ++i) clients.push_back(std::make_unique<Client>(server.Port()));
+  return clients;
+}
+
+// The server's memory after it has done its usual work once.
+long UsualMemory(const RunningServer& server) {
+  for (const char* target : {kTarget, "/forecast.asp?t=xml&d=meta&pc=66044", "/sfctemp.200.12z.006.gif",
+                             "/location_setup.asp?city=Springfield&t=xml", "/sectors.12z.sys"}) {
+    Get(server.Port(), target);
+  }
+  return server.Resident();
+}
+
+void ExpectHealthy(const RunningServer& server, long usual) {
+  EXPECT_TRUE(Get(server.Port(), kTarget).starts_with("HTTP/1.1 200"));
+  EXPECT_LT(server.Resident(), usual + kGrowth);
+}
+
+// A request that is nearly right, or not at all.
+std::string Mangled(std::mt19937& random) {
+  static const std::string seeds[] = {
+      "GET /forecast.asp?t=xml&d=meta&pc=66044&pc=80202 HTTP/1.0\r\nUser-Agent: x\r\n\r\n",
+      "GET /forecast.asp?t=xml&fcsttype=extended&pc=66044 HTTP/1.1\r\nHost: a\r\n\r\n",
+      "GET /location_setup.asp?city=St.+Louis&state=MO&t=xml HTTP/1.0\r\n\r\n",
+      "GET /location_setup.asp?pc=59801&t=xml HTTP/1.0\r\n\r\n",
+      "GET /bulletins.asp?pc=66044&t=xml HTTP/1.0\r\n\r\n",
+      "GET /messages.xml.1 HTTP/1.0\r\n\r\n",
+      "GET /sectors.12z.sys HTTP/1.0\r\n\r\n",
+      "GET /products.12z.sys.4 HTTP/1.0\r\n\r\n",
+      "GET /sfctemp.200.12z.006.gif HTTP/1.0\r\n\r\n",
+      "GET /radar/images/DS.p19r0/SI.ktwx/latest.gif HTTP/1.0\r\n\r\n",
+      "POST / HTTP/1.1\r\nHost: a\r\nTransfer-Encoding: chunked\r\n\r\nFFFFFFFFFFFFFFFF\r\n",
+      "GET / HTTP/1.1\r\nHost: a\r\nContent-Length: -1\r\nRange: bytes=9-1,-,a\r\n\r\n",
+      "GET / HTTP/1.1\r\nHost: a\r\nExpect: 100-continue\r\nAccept-Encoding: gzip\r\n\r\n"};
+  static const std::string pieces[] = {"%",
+                                       "%00",
+                                       "%FF",
+                                       "&",
+                                       "=",
+                                       "?",
+                                       "/../",
+                                       "\r\n",
+                                       "\n",
+                                       " ",
+                                       "pc=",
+                                       "99999",
+                                       "-1",
+                                       "HTTP/9.9",
+                                       std::string(1, '\0'),
+                                       std::string(3000, 'A'),
+                                       ".gif",
+                                       "18446744073709551616"};
+  const auto below = [&](std::size_t bound) { return random() % bound; };
+  std::string text = seeds[below(std::size(seeds))];
+  for (std::size_t change = below(6); change > 0; --change) {
+    const std::size_t at = below(text.size() + 1);
+    switch (below(4)) {
+      case 0: text.insert(at, pieces[below(std::size(pieces))]); break;
+      case 1: text.erase(at, below(12)); break;
+      case 2: text.insert(at, text.substr(below(text.size() + 1), below(40))); break;
+      default:
+        if (at < text.size()) text[at] = static_cast<char>(random());
+    }
+  }
+  return text;
+}
+
+TEST(HostileClient, TwentyThousandMangledRequestsLeaveTheServerAsItWas) {
+  const RunningServer server({"--port", "0"});
+  const long usual = UsualMemory(server);
+  std::mt19937 random(20030307);
+  for (int i = 0; i < 20000; ++i) {
+    Client client(server.Port());
+    client.Send(Mangled(random));
+    // Most go without a word; some stay for what they may get.
+    if (random() % 8 == 0) client.Receive(std::chrono::milliseconds(5));
+    client.Abort();
+  }
+  ExpectHealthy(server, usual);
+}
+
+TEST(HostileClient, SlowSendersKeepNobodyWaitingAndAreLeft) {
+  const RunningServer server({"--port", "0", "--threads", "1"});
+  const Clients slow = Connect(server, 100);
+  const std::string request = "GET " + std::string(kTarget) + " HTTP/1.0\r\n\r\n";
+  for (int step = 0; step < 24; ++step) {
+    for (const auto& client : slow) client->Send(request.substr(static_cast<std::size_t>(step), 1));
+    EXPECT_TRUE(Get(server.Port(), kTarget).starts_with("HTTP/1.1 200"));
+    usleep(250'000);
+  }
+  for (const auto& client : slow) {
+    EXPECT_EQ(client->Receive(std::chrono::seconds(2)), "");
+    EXPECT_TRUE(client->IsClosed());
+  }
+}
+
+TEST(HostileClient, ClientsThatTakeNothingKeepNobodyWaiting) {
+  const RunningServer server({"--port", "0", "--threads", "1", "--fault", "/messages.xml.1=huge@1"});
+  const Client greedy(server.Port(), "/messages.xml.1");
+  Clients lazy;
+  for (int i = 0; i < 50; ++i)
+    lazy.push_back(std::make_unique<Client>(server.Port(), "/sfctemp.200.12z.006.gif"));
+  for (int i = 0; i < 10; ++i) EXPECT_TRUE(Get(server.Port(), kTarget).starts_with("HTTP/1.1 200"));
+}
+
+TEST(HostileClient, EndlessLinesAreCutShort) {
+  const RunningServer server({"--port", "0"});
+  const long usual = UsualMemory(server);
+  const std::string line(1 << 20, 'a');
+  for (int i = 0; i < 100; ++i) {
+    Client client(server.Port());
+    client.Send(i % 2 == 0 ? line : "GET / HTTP/1.0\r\nX: " + line);
+    EXPECT_TRUE(client.Receive().starts_with("HTTP/1.1 431"));
+  }
+  ExpectHealthy(server, usual);
+}
+
+TEST(HostileClient, HundredsOfSilentOnesAreAnsweredAroundAndLeft) {
+  const RunningServer server({"--port", "0"});
+  const long usual = UsualMemory(server);
+  const Clients silent = Connect(server, 700);
+  ExpectHealthy(server, usual);
+  for (const auto& client : silent) {
+    EXPECT_EQ(client->Receive(std::chrono::seconds(8)), "");
+    EXPECT_TRUE(client->IsClosed());
+  }
+  ExpectHealthy(server, usual);
+}
+
+TEST(HostileClient, AQueryOfAThousandPlacesIsAnsweredInPart) {
+  const RunningServer server({"--port", "0"});
+  std::string target = "/forecast.asp?t=xml&d=current";
+  for (int i = 0; i < 800; ++i) target += "&pc=66044";
+  const std::string body = BodyOf(Get(server.Port(), target));
+  std::size_t towns = 0;
+  for (std::size_t at = 0; (at = body.find("<Tf>", at)) != body.npos; ++at) ++towns;
+  EXPECT_EQ(towns, 62u) << "64 fields, two of them without a town";
+}
+
+}  // namespace
+}  // namespace skyloft::feed
