@@ -87,7 +87,7 @@ std::string_view HelpText() {
                      hang, drip, huge, many, bomb, wrong-count
   --offer-version V  the version of the program that is on offer (default 1.20.00)
   --update FILE      what is served as the update
-  --bulletins FILE   the bulletins that are in force, read again when the file changes; see docs/feed-protocol.md
+  --bulletins FILE   the bulletins that are in force, read again when the file changes; see docs/feed.md
   --storms           the simulated weather's own storms have bulletins
   --stay             do not end when standard input ends
   --help             print this

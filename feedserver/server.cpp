@@ -98,15 +98,20 @@ class Server::Http : private httplib::Server {
     Reply reply = Spoil(fault, AnswerOrFail(request, asked));
     current_exchange->Befall(fault);
     WriteLog(request, asked, reply, fault);
-    // Whoever asks for parts gets the whole, as the protocol allows: a thousand parts of a picture would be a
-    // thousand pictures.
-    const_cast<httplib::Request&>(request).ranges.clear();
+    AskForTheWholeAsItIs(const_cast<httplib::Request&>(request));
     response.status = reply.status;
     response.body = std::move(reply.body);
     response.set_header("Content-Type", reply.type);
     response.set_header("Accept-Ranges", "none");
     response.set_header("Date", HttpDate(asked.now));
     if (reply.status == kNotAllowed) response.set_header("Allow", "GET, HEAD");
+  }
+
+  // The protocol allows to pass over wishes for parts of a reply and for packing. A thousand parts of a
+  // picture would be a thousand pictures.
+  static void AskForTheWholeAsItIs(httplib::Request& request) {
+    request.ranges.clear();
+    request.headers.erase("Accept-Encoding");
   }
 
   static constexpr int kNotAllowed = 405;
