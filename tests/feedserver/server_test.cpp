@@ -32,13 +32,51 @@ TEST(Server, AnswersOverARealSocket) {
   EXPECT_EQ(Get(server.Port(), "/nothing").substr(0, 12), "HTTP/1.1 404");
 }
 
-TEST(Server, SeedAndClockMakeItRepeatable) {
-  const std::string target = "/forecast.asp?t=xml&fcsttype=extended&pc=66044";
-  RunningServer one({"--port", "0", "--seed", "5"}), same({"--port", "0", "--seed", "5"}),
-      other({"--port", "0"});
-  const std::string reply = Get(one.Port(), target);
-  EXPECT_EQ(reply, Get(same.Port(), target));
-  EXPECT_NE(reply, Get(other.Port(), target));
+constexpr const char* kEveryKind[] = {"/skyloft/config/hosts.xml",
+                                      "/location_setup.asp?city=Saint+Louis&state=MO&t=xml",
+                                      "/forecast.asp?t=xml&d=meta&pc=66044&pc=80202",
+                                      "/forecast.asp?t=xml&d=current&pc=66044&pc=80202",
+                                      "/forecast.asp?t=xml&d=currenthistorical&pc=66044",
+                                      "/forecast.asp?st=1&et=2&t=xml&pc=66044&pc=80202",
+                                      "/forecast.asp?t=xml&fcsttype=extended&pc=66044&pc=80202",
+                                      "/bulletins.asp?pc=33131&t=xml",
+                                      "/messages.xml.1",
+                                      "/products.12z.sys.4",
+                                      "/sectors.12z.sys",
+                                      "/sfctemp.200.12z.006.gif",
+                                      "/wind.200.12z.006.png",
+                                      "/cloud.200.12z.006.jpg",
+                                      "/legends/wind_legend.gif",
+                                      "/radar/images/DS.p19r0/SI.ktwx/latest.gif",
+                                      "/help/"};
+
+// What the environment of a process tells, for as long as it lives.
+class Variable {
+ public:
+  Variable(const char* name, const char* value) : name_(name) { setenv(name, value, 1); }
+  ~Variable() { unsetenv(name_); }
+
+ private:
+  const char* name_;
+};
+
+TEST(Server, SeedAndClockGiveTheSameBytesOnEveryRunWhateverTheEnvironment) {
+  const RunningServer one({"--port", "0", "--seed", "5", "--storms"});
+  const Variable zone("TZ", "Asia/Tokyo"), language("LC_ALL", "de_DE.UTF-8");
+  const RunningServer same({"--port", "0", "--seed", "5", "--storms", "--threads", "1"});
+  for (const char* target : kEveryKind) {
+    const std::string reply = Get(one.Port(), target);
+    EXPECT_TRUE(reply.starts_with("HTTP/1.1 200")) << target;
+    EXPECT_EQ(reply, Get(same.Port(), target)) << target;
+    EXPECT_EQ(reply, Get(one.Port(), target)) << "asked again: " << target;
+  }
+}
+
+TEST(Server, AnotherSeedIsAnotherWeather) {
+  const RunningServer one({"--port", "0", "--seed", "5"}), other({"--port", "0", "--seed", "6"});
+  for (const char* target : {"/forecast.asp?t=xml&fcsttype=extended&pc=66044", "/sfctemp.200.12z.006.gif"}) {
+    EXPECT_NE(Get(one.Port(), target), Get(other.Port(), target));
+  }
 }
 
 TEST(Server, ClockFollowsTheLinesOfItsInput) {
