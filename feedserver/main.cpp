@@ -36,6 +36,10 @@ int Serve(const std::vector<std::string>& arguments) {
     std::cout << HelpText();
     return 0;
   }
+  if (options.wants_version) {
+    std::cout << "skyloft-feed " << World().offered_version << "\n";
+    return 0;
+  }
   if (!options.update_file.empty()) options.world.update_file = ReadFile(options.update_file);
   BulletinFile bulletins(options.bulletins_file);
   options.world.bulletins = [&bulletins](Date now) { return bulletins.Read(now); };

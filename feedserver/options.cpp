@@ -59,6 +59,8 @@ Options ReadOptions(const std::vector<std::string>& arguments) {
       options.stays = true;
     } else if (name == "--storms") {
       options.world.storms = true;
+    } else if (name == "--version") {
+      options.wants_version = true;
     } else if (name == "--help") {
       options.wants_help = true;
     } else if (!option) {
@@ -90,6 +92,7 @@ std::string_view HelpText() {
   --bulletins FILE   the bulletins that are in force, read again when the file changes; see docs/feed.md
   --storms           the simulated weather's own storms have bulletins
   --stay             do not end when standard input ends
+  --version          print the version
   --help             print this
 
 The first line of its output is "listening PORT". A line "now TIME" on its standard input lets the clock

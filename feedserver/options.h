@@ -20,7 +20,7 @@ struct Options {
   std::string log_file, update_file, bulletins_file;
   std::vector<Fault> faults;
   bool stays = false;  // does not end with its standard input
-  bool wants_help = false;
+  bool wants_help = false, wants_version = false;
 };
 
 // Raises, with a text for the user, for what it does not understand.

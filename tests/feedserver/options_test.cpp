@@ -48,8 +48,9 @@ TEST(Options, WhatIsNotUnderstoodRaises) {
 }
 
 TEST(Options, HelpNamesEveryOption) {
-  for (const char* name : {"--port", "--address", "--threads", "--seed", "--now", "--log", "--fault",
-                           "--offer-version", "--update", "--bulletins", "--storms", "--stay", "--help"}) {
+  for (const char* name :
+       {"--port", "--address", "--threads", "--seed", "--now", "--log", "--fault", "--offer-version",
+        "--update", "--bulletins", "--storms", "--stay", "--version", "--help"}) {
     EXPECT_NE(HelpText().find(name), std::string_view::npos) << name;
   }
 }

@@ -22,7 +22,7 @@ QStringList OptionsOfHelp(const Ending& help) {
 QStringList OptionsOfReadme() {
   QStringList options;
   for (const QString& line : QString::fromUtf8(ReadBytes(SKYLOFT_README)).split('\n')) {
-    if (line.startsWith("| `--")) options << line.section('`', 1, 1);
+    if (line.startsWith("| `--")) options << line.section('`', 1, 1).remove('\\');
   }
   return options;
 }
@@ -65,6 +65,7 @@ const BadOptions kBadOptions[] = {
     {"MissingFile", {"--bulletins"}, "--bulletins"},
     {"EmptyValue", {"--zone="}, "--zone"},
     {"ValueOfASwitch", {"--demo=1"}, "--demo"},
+    {"Autostart", {"--autostart", "yes"}, "--autostart"},
     {"NowIsNoDate", {"--now", "yesterday"}, "--now"},
     {"NowIsNoHour", {"--now", "2003-03-07T24:05:00"}, "--now"},
     {"Zone", {"--zone", "Mars/Olympus"}, "Mars/Olympus"},

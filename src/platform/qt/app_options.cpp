@@ -28,6 +28,8 @@ constexpr struct {
      "when start-up is over, save pictures and the state of all windows to DIR, then end"},
     {"--print", "FILE", "print into FILE, a PDF, without asking for a printer"},
     {"--script", "FILE", "drive the program by the commands of FILE, one a line"},
+    {"--autostart", "on|off", "start with the desktop's session from now on, or no longer; then end"},
+    {"--version", "", "show the version"},
     {"--help", "", "show these options"},
 };
 
@@ -47,8 +49,11 @@ bool Take(AppOptions& options, std::string_view name, const std::string& value) 
   if (name == "--snapshot") options.snapshot = value;
   if (name == "--print") options.print = value;
   if (name == "--script") options.script = value;
+  if (name == "--autostart") options.autostart = value;
+  if (name == "--version") options.version = true;
   if (name == "--help") options.help = true;
   if (name == "--now") return TryReadDate(value, date);
+  if (name == "--autostart") return value == "on" || value == "off";
   if (name == "--dpi") return ReadNumber(value, options.dots_per_inch);
   return true;
 }

@@ -17,7 +17,8 @@ struct AppOptions {
   std::string snapshot;   // folder for pictures of all windows; "" for none
   std::string print;      // file that prints go to; "" for a printer that the user chooses
   std::string script;     // file of commands; "" for none
-  bool help = false;
+  std::string autostart;  // "on" or "off" sets whether the desktop starts the program; "" leaves it
+  bool version = false, help = false;
 };
 
 // Reads the arguments, then SKYLOFT_ROOT and SKYLOFT_HOSTS for what they leave open. On a bad one, says so on

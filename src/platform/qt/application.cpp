@@ -87,6 +87,13 @@ void SetUpServer(const AppOptions& options) {
   if (const auto server = StartFeed(options.bulletins)) SetExampleServer(*server);
 }
 
+// On a Wayland desktop too, by its X11 server: only there may a program place its own windows.
+void PreferX11() {
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && qEnvironmentVariableIsSet("DISPLAY")) {
+    qputenv("QT_QPA_PLATFORM", "xcb");
+  }
+}
+
 void OnTerminate(int) {
   const char byte = 1;
   [[maybe_unused]] const auto written = write(signal_pipe[1], &byte, 1);
@@ -149,8 +156,10 @@ int RunApplication(int argc, char** argv, const AppOptions& options) {
   SetUpStore(*store);
   SetUpServer(options);
 
+  PreferX11();
   QApplication application(argc, argv);
   QApplication::setApplicationName("skyloft");
+  QGuiApplication::setDesktopFileName("example.skyloft.Skyloft");
   QApplication::setQuitOnLastWindowClosed(false);
   SetFont();
   SetDotsPerInch(options.dots_per_inch);

@@ -72,9 +72,16 @@ QMap<QString, QVariant> ReadValues(const QString& file) {
   return values;
 }
 
+// An empty file that nobody else can read: a value may be a password.
+bool MakePrivate(const QString& name) {
+  QFile::remove(name);
+  QFile file(name);
+  return file.open(QIODevice::WriteOnly) && file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+}
+
 // Writes the values to a file of their own and reads them back, as a full disk may take a part of them only.
 bool WriteValues(const QString& file) {
-  QFile::remove(file);
+  if (!MakePrivate(file)) return false;
   {
     QSettings settings(file, QSettings::IniFormat);
     for (const auto& [path, value] : TheStore().values.asKeyValueRange()) settings.setValue(path, value);

@@ -48,6 +48,14 @@ TEST_F(RealStore, AValueStandsInTheSectionOfItsRoot) {
   EXPECT_EQ(Text(), "[HKCU]\nSoftware\\Aerolume\\Skyloft\\Settings\\Top=300\n");
 }
 
+TEST_F(RealStore, OnlyItsOwnerCanReadIt) {
+  for (const char* value : {"secret", "another"}) {
+    Write("Top", std::string(value));
+    const auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+    EXPECT_FALSE(QFile::permissions(folder.path() + "/registry.ini") & others);
+  }
+}
+
 TEST_F(RealStore, ValuesOfAllKindsSurviveAReload) {
   const std::string hard = "a, b; \"c\" = %d\\e \xE9\x80 ";
   Write("Text", hard);
