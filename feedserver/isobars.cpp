@@ -31,48 +31,80 @@ std::vector<Pixel> Crossings(const Samples& samples, Pixel corner, double step, 
   return places;
 }
 
-// Writes H and L where nothing around is higher or lower.
-void DrawExtremes(const Sheet& sheet, const Samples& samples) {
-  constexpr int kStep = 16, kReach = 6;
-  constexpr double kTop = 80, kSide = 40;
-  for (double y = kTop; y < kMapHeight - kSide; y += kStep) {
-    for (double x = kSide; x < kMapWidth - kSide; x += kStep) {
-      const double value = samples.At({x, y});
-      bool is_high = true, is_low = true;
-      for (int i = -kReach; i <= kReach; ++i) {
-        for (int j = -kReach; j <= kReach; ++j) {
-          const double other = samples.At({std::clamp(x + i * kStep, 0.0, kMapWidth * 1.0),
-                                           std::clamp(y + j * kStep, 0.0, kMapHeight * 1.0)});
-          is_high &= other <= value;
-          is_low &= other >= value;
-        }
+// How far the values around a place, as far as `reach` pixels, lie above it and below it.
+struct Around {
+  double rise = 0, fall = 0;
+};
+
+Around AroundOf(const Samples& samples, Pixel place, double reach, double step) {
+  const double value = samples.At(place);
+  Around around;
+  for (double y = place.y - reach; y <= place.y + reach; y += step) {
+    for (double x = place.x - reach; x <= place.x + reach; x += step) {
+      const double other =
+          samples.At({std::clamp(x, 0.0, kMapWidth * 1.0), std::clamp(y, 0.0, kMapHeight * 1.0)});
+      around.rise = std::max(around.rise, other - value);
+      around.fall = std::max(around.fall, value - other);
+    }
+  }
+  return around;
+}
+
+// Calls `draw` with every piece of the lines: its ends and its level.
+template <class Draw>
+void ForPieces(const Samples& samples, double step, Draw draw) {
+  constexpr int kSquare = 8;
+  for (int y = 0; y < kMapHeight; y += kSquare) {
+    for (int x = 0; x < kMapWidth; x += kSquare) {
+      const Pixel corner{static_cast<double>(x), static_cast<double>(y)};
+      const double middle = samples.At({corner.x + kSquare / 2.0, corner.y + kSquare / 2.0});
+      for (int i = -1; i <= 1; ++i) {
+        const double level = (std::round(middle / step) + i) * step;
+        const auto places = Crossings(samples, corner, kSquare, level);
+        for (std::size_t j = 0; j + 1 < places.size(); j += 2) draw(places[j], places[j + 1], level);
       }
-      if (is_high == is_low) continue;
-      const Colour colour = is_high ? Colour{28, 60, 168} : Colour{184, 32, 40};
-      WriteWithRim(sheet.canvas, is_high ? "H" : "L", {x - 6, y - 9}, 18, 3.4, colour, kRim);
-      const std::string number = Amount(value, 2);
-      WriteWithRim(sheet.canvas, number, {x - TextWidth(number, 7) / 2, y + 14}, 7, 1.2, colour, kRim);
     }
   }
 }
 
 }  // namespace
 
-void DrawIsobars(const Sheet& sheet, const Samples& samples, double step) {
-  constexpr int kSquare = 8;
-  for (int y = 0; y < kMapHeight; y += kSquare) {
-    for (int x = 0; x < kMapWidth; x += kSquare) {
-      const Pixel corner{static_cast<double>(x), static_cast<double>(y)};
-      const double middle = samples.At({corner.x + kSquare / 2.0, corner.y + kSquare / 2.0});
-      for (int i = -2; i <= 2; ++i) {
-        const double level = (std::round(middle / step) + i) * step;
-        const auto places = Crossings(samples, corner, kSquare, level);
-        for (std::size_t j = 0; j + 1 < places.size(); j += 2)
-          sheet.canvas.DrawSoft(std::array{places[j], places[j + 1]}, 1.2, kLine);
-      }
+void DrawExtremes(Canvas& canvas, const Samples& samples, Room& room) {
+  constexpr int kStep = 16, kReach = 96;
+  constexpr double kTop = 80, kSide = 40, kLeast = 0.05;  // inches
+  for (double y = kTop; y < kMapHeight - kSide; y += kStep) {
+    for (double x = kSide; x < kMapWidth - kSide; x += kStep) {
+      const Around around = AroundOf(samples, {x, y}, kReach, kStep);
+      const bool is_high = around.rise == 0 && around.fall > kLeast;
+      const bool is_low = around.fall == 0 && around.rise > kLeast;
+      const std::string number = Amount(samples.At({x, y}), 2);
+      const double half = TextWidth(number, 7) / 2;
+      if (is_high == is_low || !room.Take({x - half - 3, y - 12, x + half + 3, y + 24})) continue;
+      const Colour colour = is_high ? Colour{28, 60, 168} : Colour{184, 32, 40};
+      WriteWithRim(canvas, is_high ? "H" : "L", {x - 6, y - 9}, 18, 3.4, colour, kRim);
+      WriteWithRim(canvas, number, {x - half, y + 14}, 7, 1.2, colour, kRim);
     }
   }
-  DrawExtremes(sheet, samples);
+}
+
+void DrawIsobars(Canvas& canvas, const Samples& samples, double step) {
+  ForPieces(samples, step, [&](Pixel from, Pixel to, double) {
+    canvas.DrawSoft(std::array{from, to}, 1.2, kLine);
+  });
+}
+
+void LabelIsobars(Canvas& canvas, const Samples& samples, double step, Room& room) {
+  constexpr double kHeight = 6, kApart = 60;  // of a letter; around a label, pixels
+  Room apart({-kApart, -kApart, kMapWidth + kApart, kMapHeight + kApart});
+  ForPieces(samples, step, [&](Pixel from, Pixel, double level) {
+    const std::string number = Amount(level, 1);
+    const double half = TextWidth(number, kHeight) / 2;
+    const Box box{from.x - half - 2, from.y - kHeight / 2 - 2, from.x + half + 2, from.y + kHeight / 2 + 2};
+    const Box wide{box.left - kApart, box.top - kApart, box.right + kApart, box.bottom + kApart};
+    if (!apart.IsFree(wide) || !room.Take(box)) return;
+    apart.Take(wide);
+    WriteWithRim(canvas, number, {box.left + 2, box.top + 2}, kHeight, 1, kLine, kRim);
+  });
 }
 
 }  // namespace skyloft::feed

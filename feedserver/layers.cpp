@@ -175,7 +175,7 @@ constexpr auto kLayers = std::to_array<Layer>({
     {"24-Hour Precipitation", {"in", kSums}, Water, Over::Sum, 24},
     {"Precipitation of the Whole Run", {"in", kSums}, Water, Over::Sum},
     {"24-Hour Snowfall", {"in", kSnows}, Snow, Over::Sum, 24},
-    {"Radar", {"dBZ", kEchoes}, EchoOf},
+    {"Radar", {"dBZ", kEchoes}, EchoOf, Over::Moment, 0, Marks::None, true},
     {"Wind", {"mph", kWinds}, Wind, Over::Moment, 0, Marks::Arrows},
     {"Cloud Cover", {"%", kClouds}, Cloud},
     {"Surface Analysis", {"in", kPressures}, Pressure, Over::Moment, 0, Marks::Isobars},

@@ -18,6 +18,7 @@ struct Layer {
   Over over = Over::Moment;
   int hours = 0;              // of the time that it looks back on
   Marks marks = Marks::None;  // what is drawn over the colours; of roads alone the colours are on them
+  bool is_echo = false;       // of a radar, which no smooth field looks like
 };
 
 enum class LayerId {

@@ -1,19 +1,27 @@
-// The shape of the country: coasts and the borders of its states, coarse enough for a map of 640 pixels.
+// The shapes of land and water: coasts, borders and state lines of the country, and what of its neighbours a
+// map of it shows.
 #pragma once
 
+#include <cstdint>
 #include <vector>
 
 #include "feedserver/weather.h"
 
 namespace skyloft::feed {
 
-// One line of it. An edge has the country on one side only: a coast, or the border with a neighbour. All
-// edges together enclose the country (a point is inside when a ray from it crosses an odd number of them).
+// What a line is part of the rim of. All lines of an area together enclose it: a point is inside when a ray
+// from it crosses an odd number of them. The country is land; of the neighbours' area the country and the
+// lakes have to be taken away, and of the lakes the country.
+enum class Area : std::uint8_t { None, Country, Neighbours, Lakes };
+enum class Stroke : std::uint8_t { Unseen, Coast, Border, State };
+
 struct Outline {
-  bool is_edge;
+  Area area;
+  Stroke stroke;
   std::vector<Point> points;  // at least two
 };
 
+// Decoded at the first call.
 const std::vector<Outline>& Outlines();
 
 }  // namespace skyloft::feed

@@ -3,77 +3,91 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <iterator>
 #include <numbers>
 #include <string>
 
 #include "base/values.h"
 #include "feedserver/cities.h"
 #include "feedserver/lettering.h"
-#include "feedserver/outlines.h"
 
 namespace skyloft::feed {
 namespace {
 
-constexpr Colour kInk{32, 36, 44}, kBorder{104, 104, 108}, kWhite{255, 255, 255};
-
-struct Box {
-  double left, top, right, bottom;
-
-  bool Covers(const Box& other) const {
-    return left < other.right && other.left < right && top < other.bottom && other.top < bottom;
-  }
-};
+constexpr Colour kInk{32, 36, 44}, kWhite{255, 255, 255};
 
 // The least important cities that a map of this width has room for.
 int LowestRank(const Sector& sector) { return sector.MetresPerPixel() > 5000 ? 1 : 2; }
 
 constexpr double kNameHeight = 7, kNumberHeight = 10;
 
-Box LabelBox(Pixel at, double width, bool has_numbers) {
-  return {at.x - 3, at.y - (has_numbers ? kNumberHeight + 6 : 6), at.x + width + 8,
-          at.y + (has_numbers ? 12 : 8)};
+Box LabelBox(Pixel at, double left, double width, bool has_numbers) {
+  return {std::min(left, at.x) - 3, at.y - (has_numbers ? kNumberHeight + 6 : 6),
+          std::max(left + width, at.x) + 3, at.y + (has_numbers ? 12 : 8)};
 }
 
-void DrawCity(const Sheet& sheet, const City& city, Pixel at, bool has_numbers) {
+// Draws a city with its texts from `left` on.
+void DrawCity(const Sheet& sheet, const City& city, Pixel at, double left, bool has_numbers) {
   Canvas& canvas = sheet.canvas;
   canvas.DrawSoft(std::array{at}, 5.4, kWhite);
   canvas.DrawSoft(std::array{at}, 3.4, kInk);
   const double name_top = has_numbers ? at.y + 2 : at.y - kNameHeight / 2;
-  WriteWithRim(canvas, city.name, {at.x + 6, name_top}, kNameHeight, 1.1, kInk, kWhite);
+  WriteWithRim(canvas, city.name, {left, name_top}, kNameHeight, 1.1, kInk, kWhite);
   if (!has_numbers) return;
   const MapRequest& request = sheet.request;
   const double value = ValueOf(*request.layer, request.hours, city.point, request.valid, sheet.seed);
   WriteWithRim(canvas, NumberText(static_cast<double>(RoundHalfAway(value))),
-               {at.x + 6, at.y - kNumberHeight - 1}, kNumberHeight, 1.9, kInk, kWhite);
+               {left, at.y - kNumberHeight - 1}, kNumberHeight, 1.9, kInk, kWhite);
+}
+
+std::vector<std::vector<MapPoint>> ProjectedOutlines() {
+  std::vector<std::vector<MapPoint>> projected;
+  for (const Outline& outline : Outlines())
+    std::ranges::transform(outline.points, std::back_inserter(projected.emplace_back()), Project);
+  return projected;
 }
 
 }  // namespace
 
-void DrawOutlines(const Sheet& sheet) {
-  std::vector<Pixel> path;
-  for (const bool is_edge : {false, true}) {  // coasts over borders
-    for (const Outline& outline : Outlines()) {
-      if (outline.is_edge != is_edge) continue;
-      path.clear();
-      for (const Point& point : outline.points) path.push_back(sheet.PixelOf(point));
-      sheet.canvas.DrawSoft(path, is_edge ? 1.5 : 0.9, is_edge ? kInk : kBorder);
+std::vector<DrawnOutline> OutlinesOn(const Sheet& sheet) {
+  static const std::vector<std::vector<MapPoint>> projected = ProjectedOutlines();
+  std::vector<DrawnOutline> drawn;
+  drawn.reserve(projected.size());
+  for (std::size_t i = 0; i < projected.size(); ++i) {
+    std::vector<Pixel>& path = drawn.emplace_back(DrawnOutline{Outlines()[i], {}}).path;
+    path.reserve(projected[i].size());
+    for (const MapPoint& point : projected[i]) path.push_back(sheet.request.sector->PixelOf(point));
+  }
+  return drawn;
+}
+
+void DrawOutlines(Canvas& canvas, std::span<const DrawnOutline> outlines) {
+  const struct {
+    Stroke stroke;
+    double width;
+    Colour colour;
+  } kPens[] = {{Stroke::State, 0.8, {122, 122, 124}},
+               {Stroke::Coast, 1.1, {62, 78, 100}},
+               {Stroke::Border, 1.3, {76, 70, 74}}};
+  for (const auto& pen : kPens) {
+    for (const DrawnOutline& drawn : outlines) {
+      if (drawn.outline.stroke == pen.stroke) canvas.DrawSoft(drawn.path, pen.width, pen.colour);
     }
   }
 }
 
-void DrawCities(const Sheet& sheet, bool has_numbers) {
-  constexpr double kMargin = 4, kBarHeight = 46;
-  std::vector<Box> taken;
+void DrawCities(const Sheet& sheet, bool has_numbers, Room& room) {
+  constexpr double kGap = 6;  // between a dot and its name
   for (int rank = 1; rank <= LowestRank(*sheet.request.sector); ++rank) {
     for (const City& city : Cities()) {
+      if (city.rank != rank) continue;
       const Pixel at = sheet.PixelOf(city.point);
-      const Box box = LabelBox(at, TextWidth(city.name, kNameHeight), has_numbers);
-      const bool is_on_map = box.left > kMargin && box.top > kBarHeight && box.right < kMapWidth - kMargin &&
-                             box.bottom < kMapHeight - kMargin;
-      const bool is_free = std::ranges::none_of(taken, [&](const Box& other) { return box.Covers(other); });
-      if (city.rank != rank || !is_on_map || !is_free) continue;
-      taken.push_back(box);
-      DrawCity(sheet, city, at, has_numbers);
+      const double width = TextWidth(city.name, kNameHeight);
+      for (const double left : {at.x + kGap, at.x - kGap - width}) {
+        if (!room.Take(LabelBox(at, left, width, has_numbers))) continue;
+        DrawCity(sheet, city, at, left, has_numbers);
+        break;
+      }
     }
   }
 }

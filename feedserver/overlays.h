@@ -6,6 +6,8 @@
 #include <vector>
 
 #include "feedserver/maps.h"
+#include "feedserver/outlines.h"
+#include "feedserver/room.h"
 #include "feedserver/samples.h"
 
 namespace skyloft::feed {
@@ -20,15 +22,23 @@ struct Sheet {
   Point PointOf(Pixel pixel) const { return Unproject(request.sector->PointOf(pixel)); }
 };
 
-// Borders and coasts.
-void DrawOutlines(const Sheet& sheet);
-// Cities with their names; with `has_numbers` the values of the layer too. What would cover another is left
-// out.
-void DrawCities(const Sheet& sheet, bool has_numbers);
+// An outline as it lies on a sheet.
+struct DrawnOutline {
+  const Outline& outline;
+  std::vector<Pixel> path;
+};
+std::vector<DrawnOutline> OutlinesOn(const Sheet& sheet);
+// Coasts, borders and state lines.
+void DrawOutlines(Canvas& canvas, std::span<const DrawnOutline> outlines);
+// Cities with their names; with `has_numbers` the values of the layer too. What finds no room is left out.
+void DrawCities(const Sheet& sheet, bool has_numbers, Room& room);
 // Where the wind blows to.
 void DrawArrows(const Sheet& sheet);
-// Lines of equal value, one every `step`, with the highs and lows between them.
-void DrawIsobars(const Sheet& sheet, const Samples& samples, double step);
+// The highs and lows of a quantity.
+void DrawExtremes(Canvas& canvas, const Samples& samples, Room& room);
+// Lines of equal value, one every `step`, and the value on them where there is room.
+void DrawIsobars(Canvas& canvas, const Samples& samples, double step);
+void LabelIsobars(Canvas& canvas, const Samples& samples, double step, Room& room);
 // Highways, coloured by the layer.
 void DrawRoads(const Sheet& sheet);
 // The scale as a row of boxes with their numbers below.

@@ -1,49 +1,17 @@
 #include "feedserver/place_table.h"
 
-#include <zlib.h>
-
 #include <algorithm>
 #include <span>
 
-#include "base/guard.h"
+#include "feedserver/unpacker.h"
 
-// What places_data.S puts into the program.
+// What data.S puts into the program.
 extern "C" {
 extern const unsigned char skyloft_places_begin[], skyloft_places_end[];
 }
 
 namespace skyloft::feed {
 namespace {
-
-// Reads what data/make_places.py packed, from front to back.
-class Unpacker {
- public:
-  explicit Unpacker(std::span<const unsigned char> bytes) : bytes_(bytes) {}
-
-  // A little-endian number.
-  template <class Number>
-  Number Next() {
-    std::uint32_t bits = 0;
-    for (std::size_t i = 0; i < sizeof(Number); ++i) bits |= std::uint32_t{bytes_[i]} << (8 * i);
-    bytes_ = bytes_.subspan(sizeof(Number));
-    return static_cast<Number>(bits);
-  }
-  std::span<const unsigned char> Rest() const { return bytes_; }
-
- private:
-  std::span<const unsigned char> bytes_;
-};
-
-// The file is the size of what it holds and then that, compressed by zlib.
-std::vector<unsigned char> Inflated() {
-  Unpacker file({skyloft_places_begin, skyloft_places_end});
-  auto size = static_cast<uLongf>(file.Next<std::uint32_t>());
-  std::vector<unsigned char> bytes(size);
-  const auto packed = file.Rest();
-  if (uncompress(bytes.data(), &size, packed.data(), packed.size()) != Z_OK || size != bytes.size())
-    throw RuntimeError("the table of places is damaged");
-  return bytes;
-}
 
 void WriteDigits(std::span<char> digits, std::int32_t number) {
   for (auto digit = digits.rbegin(); digit != digits.rend(); ++digit, number /= 10)
@@ -63,7 +31,7 @@ std::vector<std::string_view> TakeNames(std::string_view& text, std::size_t coun
 }  // namespace
 
 PlaceTable::PlaceTable() {
-  const std::vector<unsigned char> bytes = Inflated();
+  const std::vector<unsigned char> bytes = Inflated({skyloft_places_begin, skyloft_places_end});
   Unpacker data(bytes);
   records_.resize(data.Next<std::uint32_t>());
   const auto cities = data.Next<std::uint32_t>(), counties = data.Next<std::uint32_t>(),

@@ -10,6 +10,7 @@
 #include "feedserver/grain.h"
 #include "feedserver/lettering.h"
 #include "feedserver/outlines.h"
+#include "feedserver/room.h"
 #include "feedserver/samples.h"
 #include "feedserver/scale.h"
 
@@ -22,6 +23,7 @@ constexpr Pixel kSitePixel{322, 308};
 constexpr double kRange = 230, kKilometresPerDegree = 111.2;
 constexpr Colour kGround{0, 0, 0}, kLines{0, 139, 0}, kMarks{205, 0, 0};
 constexpr double kLetters = 8;  // height of a capital, pixels
+constexpr Box kTitleBox{0, 0, 320, 38}, kLegendBox{0, 390, 60, 600};
 
 // Reflectivity in dBZ after the rain rate: Z = 200 R^1.6, R in millimetres an hour. Source: Marshall and
 // Palmer, The Distribution of Raindrops with Size, Journal of Meteorology 5, 1948.
@@ -163,6 +165,7 @@ void DrawEchoes(Canvas& canvas, const Kind& kind, const RadarSite& site, Date ti
 void DrawLines(Canvas& canvas, const RadarSite& site) {
   std::vector<Pixel> path;
   for (const Outline& outline : Outlines()) {
+    if (outline.stroke == Stroke::Unseen) continue;
     path.clear();
     for (const Point& point : outline.points) path.push_back(RadarPixel(site, point));
     canvas.DrawHard(path, kLines);
@@ -179,16 +182,28 @@ void DrawLines(Canvas& canvas, const RadarSite& site) {
 }
 
 void DrawMarks(Canvas& canvas, const RadarSite& site) {
+  constexpr double kGap = 6, kMargin = 2;  // between a cross and its name; around a name
   const auto cross = [&](Pixel at, double arm) {
     canvas.DrawHard(std::array{Pixel{at.x - arm, at.y}, Pixel{at.x + arm, at.y}}, kMarks);
     canvas.DrawHard(std::array{Pixel{at.x, at.y - arm}, Pixel{at.x, at.y + arm}}, kMarks);
   };
   cross(kSitePixel, 6);
-  for (const City& city : Cities()) {
-    const Pixel at = RadarPixel(site, city.point);
-    if (at.x < 0 || at.x > kSize || at.y < 0 || at.y > kSize) continue;
-    cross(at, 2);
-    WriteHard(canvas, city.name, {at.x + 6, at.y - kLetters / 2}, kLetters, kMarks);
+  Room room({0, 0, kSize, kSize});
+  room.Take(kTitleBox);
+  room.Take(kLegendBox);
+  for (const int rank : {1, 2, 3}) {
+    for (const City& city : Cities()) {
+      const Pixel at = RadarPixel(site, city.point);
+      if (city.rank != rank || at.x < 0 || at.x > kSize || at.y < 0 || at.y > kSize) continue;
+      cross(at, 2);
+      const double width = TextWidth(city.name, kLetters), top = at.y - kLetters / 2;
+      for (const double left : {at.x + kGap, at.x - kGap - width}) {
+        const Box box{left - kMargin, top - kMargin, left + width + kMargin, top + kLetters + 2 * kMargin};
+        if (!room.Take(box)) continue;
+        WriteHard(canvas, city.name, {left, top}, kLetters, kMarks);
+        break;
+      }
+    }
   }
 }
 

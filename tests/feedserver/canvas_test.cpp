@@ -7,8 +7,6 @@
 #include "decode.h"
 #include "feedserver/encode.h"
 #include "feedserver/lettering.h"
-#include "feedserver/outlines.h"
-#include "feedserver/samples.h"
 
 namespace skyloft::feed {
 namespace {
@@ -67,18 +65,6 @@ TEST(Mask, InsideIsWhatAnOddNumberOfLinesEncloses) {
   EXPECT_EQ(mask.Row(6), (std::vector<std::uint8_t>{0, 1, 1, 1, 0, 0, 0, 0, 1, 1, 1, 0}));
 }
 
-TEST(Samples, AreExactAtTheirCornersAndStraightBetween) {
-  const Samples samples(30, 20, 10, [](Pixel pixel) { return 2 * pixel.x - 3 * pixel.y + 7; });
-  EXPECT_DOUBLE_EQ(samples.At({10, 10}), 20 - 30 + 7);
-  EXPECT_DOUBLE_EQ(samples.At({29, 1}), 58 - 3 + 7);
-  std::vector<double> row(30);
-  for (const int y : {0, 9, 10, 19}) {
-    samples.ReadRow(y, row);
-    for (int x = 0; x < 30; ++x)
-      EXPECT_NEAR(row[static_cast<std::size_t>(x)], 2 * (x + 0.5) - 3 * (y + 0.5) + 7, 1e-9) << x << ' ' << y;
-  }
-}
-
 TEST(Lettering, WritesWithinItsWidthAndHeight) {
   for (const char sign :
        std::string("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789.,:-+/%()'\xB0")) {
@@ -133,45 +119,6 @@ TEST(Encode, PngIsExactAndJpegNearlySo) {
   ASSERT_EQ(jpeg.Height(), 30);
   EXPECT_NEAR(PixelAt(jpeg, 16, 16).red, 220, 4);
   EXPECT_NEAR(PixelAt(jpeg, 36, 26).blue, 90, 4);
-}
-
-// Whether a point lies inside the country, by a ray to the east.
-bool IsInland(Point point) {
-  bool is_inside = false;
-  for (const Outline& outline : Outlines()) {
-    if (!outline.is_edge) continue;
-    for (std::size_t i = 1; i < outline.points.size(); ++i) {
-      const Point a = outline.points[i - 1], b = outline.points[i];
-      if ((a.latitude > point.latitude) == (b.latitude > point.latitude)) continue;
-      const double share = (point.latitude - a.latitude) / (b.latitude - a.latitude);
-      if (a.longitude + share * (b.longitude - a.longitude) > point.longitude) is_inside = !is_inside;
-    }
-  }
-  return is_inside;
-}
-
-TEST(Outlines, EncloseTheCountry) {
-  const struct {
-    const char* name;
-    Point point;
-    bool is_inside;
-  } cases[] = {{"Kansas", {38.5, -98}, true},
-               {"Nevada", {39.5, -117}, true},
-               {"Maine", {45.3, -69}, true},
-               {"the Everglades", {25.8, -80.8}, true},
-               {"Upper Michigan", {46.4, -87.5}, true},
-               {"Big Island", {19.6, -155.5}, true},
-               {"Puerto Rico", {18.2, -66.4}, true},
-               {"inner Alaska", {64, -150}, true},
-               {"Lake Michigan", {43.5, -87}, false},
-               {"Lake Superior", {47.8, -88}, false},
-               {"the Gulf", {27, -90}, false},
-               {"the Atlantic", {35, -70}, false},
-               {"Ontario", {48.5, -84}, false},
-               {"Sonora", {30, -111}, false},
-               {"Alberta", {52, -114}, false},
-               {"the Pacific", {40, -127}, false}};
-  for (const auto& c : cases) EXPECT_EQ(IsInland(c.point), c.is_inside) << c.name;
 }
 
 }  // namespace
