@@ -4,6 +4,7 @@
 #include <string>
 
 #include "feedserver/answer.h"
+#include "feedserver/outlines.h"
 
 namespace skyloft::bench {
 namespace {
@@ -23,8 +24,25 @@ BENCHMARK_CAPTURE(Picture, HourPrecipitation, "/radar/images/DS.78ohp/SI.klot/la
     ->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Picture, TotalPrecipitation, "/radar/images/DS.80stp/SI.klot/latest.gif")
     ->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Picture, MapOfAMoment, "/sfctemp.200.12z.010.gif")->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Picture, MapOfADay, "/precip24.200.12z.030.png")->Unit(benchmark::kMillisecond);
+// Every kind of map.
+BENCHMARK_CAPTURE(Picture, Temperature, "/sfctemp.200.12z.010.gif")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Picture, Precipitation, "/precip.306.12z.010.gif")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Picture, Wind, "/wind.406.12z.010.png")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Picture, Cloud, "/cloud.406.12z.010.jpg")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Picture, Radar, "/fradar.306.12z.010.gif")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Picture, High, "/dayhigh.106.12z.024.gif")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Picture, DayPrecipitation, "/precip24.200.12z.030.png")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Picture, DaySnow, "/snow24.306.12z.030.gif")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Picture, RunPrecipitation, "/preciprun.306.12z.066.gif")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Picture, Pressure, "/analysis.106.12z.000.png")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Picture, Thunder, "/thunder.106.jpg")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Picture, Roads, "/route.306.12z.024.gif")->Unit(benchmark::kMillisecond);
+
+// What the outlines take before the first picture.
+void OutlinesDecoded(benchmark::State& state) {
+  for ([[maybe_unused]] auto round : state) benchmark::DoNotOptimize(feed::DecodedOutlines());
+}
+BENCHMARK(OutlinesDecoded)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace skyloft::bench

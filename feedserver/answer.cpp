@@ -67,7 +67,7 @@ Reply Answer(const Request& request, const World& world) {
   if (path == "/bulletins.asp") return AnswerBulletins(request, world);
   if (IsMessages(path)) return XmlReply(MessagesXml(request.now));
   if (path == "/skltupdate.exe") return AnswerUpdate(world);
-  if (auto picture = PictureReply(path, request.now, world.seed)) return *std::move(picture);
+  if (auto picture = PictureReply(path, request.now, world)) return *std::move(picture);
   if (auto page = PageReply(path)) return *std::move(page);
   return AnswerCatalogue(path);
 }

@@ -13,13 +13,16 @@
 
 namespace skyloft::feed {
 
+class PictureStore;
+
 struct World {
   std::uint64_t seed = 1;
   std::string offered_version = "1.20.00";  // of the program, told by the configuration
   std::string update_file{};                // what is served as the update; "" when there is none
   // What bulletins there are at a moment, some perhaps not yet or no longer in force; empty for none.
   std::function<std::vector<Bulletin>(Date now)> bulletins{};
-  bool storms = false;  // whether the weather's own storms have bulletins too
+  bool storms = false;               // whether the weather's own storms have bulletins too
+  PictureStore* pictures = nullptr;  // where drawn pictures are kept; null where each is drawn anew
 };
 
 struct Request {

@@ -12,6 +12,7 @@
 #include "feedserver/bulletin_file.h"
 #include "feedserver/clock.h"
 #include "feedserver/options.h"
+#include "feedserver/picture_store.h"
 #include "feedserver/server.h"
 
 namespace skyloft::feed {
@@ -43,6 +44,8 @@ int Serve(const std::vector<std::string>& arguments) {
   if (!options.update_file.empty()) options.world.update_file = ReadFile(options.update_file);
   BulletinFile bulletins(options.bulletins_file);
   options.world.bulletins = [&bulletins](Date now) { return bulletins.Read(now); };
+  PictureStore pictures;
+  options.world.pictures = &pictures;
   FaultBook faults;
   for (Fault& fault : options.faults) faults.Add(std::move(fault));
   RequestLog log(options.log_file);

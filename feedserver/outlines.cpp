@@ -12,8 +12,10 @@ namespace {
 
 constexpr double kPerDegree = 200;  // the steps in which points are stored
 
+}  // namespace
+
 // What data/make_outlines.py packed.
-std::vector<Outline> Decoded() {
+std::vector<Outline> DecodedOutlines() {
   const std::vector<unsigned char> bytes = Inflated({skyloft_outlines_begin, skyloft_outlines_end});
   Unpacker data(bytes);
   std::vector<Outline> outlines;
@@ -32,10 +34,8 @@ std::vector<Outline> Decoded() {
   return outlines;
 }
 
-}  // namespace
-
 const std::vector<Outline>& Outlines() {
-  static const std::vector<Outline> outlines = Decoded();
+  static const std::vector<Outline> outlines = DecodedOutlines();
   return outlines;
 }
 

@@ -21,7 +21,8 @@ struct Outline {
   std::vector<Point> points;  // at least two
 };
 
-// Decoded at the first call.
+std::vector<Outline> DecodedOutlines();
+// The same, decoded at the first call.
 const std::vector<Outline>& Outlines();
 
 }  // namespace skyloft::feed

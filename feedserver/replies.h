@@ -26,6 +26,6 @@ std::string SectorsXml();
 // The page of an address; nothing for another address.
 std::optional<Reply> PageReply(std::string_view path);
 // The radar picture, map or legend of an address; nothing for another address.
-std::optional<Reply> PictureReply(std::string_view path, Date now, std::uint64_t seed);
+std::optional<Reply> PictureReply(std::string_view path, Date now, const World& world);
 
 }  // namespace skyloft::feed

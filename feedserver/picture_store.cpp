@@ -1,0 +1,39 @@
+#include "feedserver/picture_store.h"
+
+namespace skyloft::feed {
+
+std::string PictureStore::Find(const PictureKey& key, const std::function<std::string()>& draw) {
+  const std::shared_ptr<Picture> picture = Take(key);
+  std::call_once(picture->drawn, [&] {
+    picture->bytes = draw();
+    Count(key, picture->bytes.size());
+  });
+  return picture->bytes;
+}
+
+// The place of a picture, which comes first from now on.
+std::shared_ptr<PictureStore::Picture> PictureStore::Take(const PictureKey& key) {
+  const std::lock_guard lock(mutex_);
+  const auto found = by_key_.find(key);
+  if (found == by_key_.end()) {
+    entries_.push_front({key, std::make_shared<Picture>()});
+    by_key_[key] = entries_.begin();
+  } else {
+    entries_.splice(entries_.begin(), entries_, found->second);
+  }
+  return entries_.front().picture;
+}
+
+void PictureStore::Count(const PictureKey& key, std::size_t size) {
+  const std::lock_guard lock(mutex_);
+  const auto found = by_key_.find(key);
+  if (found == by_key_.end()) return;  // forgotten while it was drawn
+  bytes_ += found->second->size = size;
+  while (bytes_ > most_bytes_) {
+    bytes_ -= entries_.back().size;
+    by_key_.erase(entries_.back().key);
+    entries_.pop_back();
+  }
+}
+
+}  // namespace skyloft::feed
