@@ -13,17 +13,26 @@ namespace {
 
 constexpr Colour kLine{70, 84, 120}, kRim{255, 255, 255};
 
-// Where the line of a level crosses the sides of a square of `step` pixels: none, two or four places.
-std::vector<Pixel> Crossings(const Samples& samples, Pixel corner, double step, double level) {
-  const std::array<Pixel, 5> corners = {{corner,
-                                         {corner.x + step, corner.y},
-                                         {corner.x + step, corner.y + step},
-                                         {corner.x, corner.y + step},
-                                         corner}};
+constexpr double kSquare = 8;  // pixels
+
+// A square of the picture with the values at its corners, clockwise, and the first once more.
+struct Square {
+  std::array<Pixel, 5> corners;
+  std::array<double, 5> values;
+};
+
+Square SquareAt(const Samples& samples, double x, double y) {
+  Square square{{{{x, y}, {x + kSquare, y}, {x + kSquare, y + kSquare}, {x, y + kSquare}, {x, y}}}, {}};
+  std::ranges::transform(square.corners, square.values.begin(), [&](Pixel at) { return samples.At(at); });
+  return square;
+}
+
+// Where the line of a level crosses the sides: none, two or four places.
+std::vector<Pixel> Crossings(const Square& square, double level) {
   std::vector<Pixel> places;
   for (std::size_t side = 0; side < 4; ++side) {
-    const Pixel from = corners[side], to = corners[side + 1];
-    const double first = samples.At(from), second = samples.At(to);
+    const Pixel from = square.corners[side], to = square.corners[side + 1];
+    const double first = square.values[side], second = square.values[side + 1];
     if ((first < level) == (second < level)) continue;
     const double share = (level - first) / (second - first);
     places.push_back({std::lerp(from.x, to.x, share), std::lerp(from.y, to.y, share)});
@@ -53,15 +62,13 @@ Around AroundOf(const Samples& samples, Pixel place, double reach, double step) 
 // Calls `draw` with every piece of the lines: its ends and its level.
 template <class Draw>
 void ForPieces(const Samples& samples, double step, Draw draw) {
-  constexpr int kSquare = 8;
-  for (int y = 0; y < kMapHeight; y += kSquare) {
-    for (int x = 0; x < kMapWidth; x += kSquare) {
-      const Pixel corner{static_cast<double>(x), static_cast<double>(y)};
-      const double middle = samples.At({corner.x + kSquare / 2.0, corner.y + kSquare / 2.0});
-      for (int i = -1; i <= 1; ++i) {
-        const double level = (std::round(middle / step) + i) * step;
-        const auto places = Crossings(samples, corner, kSquare, level);
-        for (std::size_t j = 0; j + 1 < places.size(); j += 2) draw(places[j], places[j + 1], level);
+  for (double y = 0; y < kMapHeight; y += kSquare) {
+    for (double x = 0; x < kMapWidth; x += kSquare) {
+      const Square square = SquareAt(samples, x, y);
+      const auto [least, most] = std::ranges::minmax(square.values);
+      for (double number = std::ceil(least / step); number * step <= most; ++number) {
+        const auto places = Crossings(square, number * step);
+        for (std::size_t i = 0; i + 1 < places.size(); i += 2) draw(places[i], places[i + 1], number * step);
       }
     }
   }

@@ -131,13 +131,11 @@ constexpr auto kRoads = std::to_array<Band>({
     {4, {196, 40, 110}, "Ice"},
 });
 
-double Water(const Weather& w) { return w.water; }
-
 // After Marshall and Palmer, 1948: Z = 200 R^1.6, R in millimetres an hour. Dry air is not far below the
 // least rain, so that the rim of an echo is found by proportion.
-double EchoOf(const Weather& w) {
+double Echo(Point point, Date gmt, std::uint64_t seed) {
   constexpr double kDry = 6;
-  const double millimetres = w.water * 25.4;
+  const double millimetres = WaterAt(point, gmt, seed) * 25.4;
   return millimetres > 0 ? 10 * std::log10(200 * std::pow(millimetres, 1.6)) : kDry;
 }
 
@@ -151,6 +149,12 @@ double RoadOf(const Weather& w) {
   }
   if (w.visibility < 1 || w.wind_speed > 35) return 2;
   return w.fall == Fall::Rain ? 1 : 0;
+}
+
+// A part of the weather as a layer's quantity.
+template <double (*part)(const Weather&)>
+double Of(Point point, Date gmt, std::uint64_t seed) {
+  return part(WeatherAt(point, gmt, seed));
 }
 
 double Temperature(const Weather& w) { return w.temperature; }
@@ -167,20 +171,20 @@ constexpr Scale kFahrenheit{
 
 // In the order of LayerId.
 constexpr auto kLayers = std::to_array<Layer>({
-    {"Surface Temperature", kFahrenheit, Temperature, Over::Moment, 0, Marks::Numbers},
-    {"Daily High Temperature", kFahrenheit, Temperature, Over::Highest, 12, Marks::Numbers},
-    {"Daily Low Temperature", kFahrenheit, Temperature, Over::Lowest, 12, Marks::Numbers},
-    {"Precipitation", {"in/h", kRates}, Water},
-    {"12-Hour Precipitation", {"in", kSums}, Water, Over::Sum, 12},
-    {"24-Hour Precipitation", {"in", kSums}, Water, Over::Sum, 24},
-    {"Precipitation of the Whole Run", {"in", kSums}, Water, Over::Sum},
-    {"24-Hour Snowfall", {"in", kSnows}, Snow, Over::Sum, 24},
-    {"Radar", {"dBZ", kEchoes}, EchoOf, Over::Moment, 0, Marks::None, true},
-    {"Wind", {"mph", kWinds}, Wind, Over::Moment, 0, Marks::Arrows},
-    {"Cloud Cover", {"%", kClouds}, Cloud},
-    {"Surface Analysis", {"in", kPressures}, Pressure, Over::Moment, 0, Marks::Isobars},
-    {"Thunderstorm Outlook", {"%", kChances}, Thunder, Over::Highest, 24},
-    {"Driving Conditions", {"", kRoads}, RoadOf, Over::Highest, 12, Marks::Roads},
+    {"Surface Temperature", kFahrenheit, Of<Temperature>, Over::Moment, 0, Marks::Numbers},
+    {"Daily High Temperature", kFahrenheit, Of<Temperature>, Over::Highest, 12, Marks::Numbers},
+    {"Daily Low Temperature", kFahrenheit, Of<Temperature>, Over::Lowest, 12, Marks::Numbers},
+    {"Precipitation", {"in/h", kRates}, WaterAt},
+    {"12-Hour Precipitation", {"in", kSums}, WaterAt, Over::Sum, 12},
+    {"24-Hour Precipitation", {"in", kSums}, WaterAt, Over::Sum, 24},
+    {"Precipitation of the Whole Run", {"in", kSums}, WaterAt, Over::Sum},
+    {"24-Hour Snowfall", {"in", kSnows}, Of<Snow>, Over::Sum, 24},
+    {"Radar", {"dBZ", kEchoes}, Echo, Over::Moment, 0, Marks::None, true},
+    {"Wind", {"mph", kWinds}, Of<Wind>, Over::Moment, 0, Marks::Arrows},
+    {"Cloud Cover", {"%", kClouds}, Of<Cloud>},
+    {"Surface Analysis", {"in", kPressures}, Of<Pressure>, Over::Moment, 0, Marks::Isobars},
+    {"Thunderstorm Outlook", {"%", kChances}, Of<Thunder>, Over::Highest, 24},
+    {"Driving Conditions", {"", kRoads}, Of<RoadOf>, Over::Highest, 12, Marks::Roads},
 });
 
 }  // namespace
@@ -188,11 +192,11 @@ constexpr auto kLayers = std::to_array<Layer>({
 const Layer& LayerOf(LayerId id) { return kLayers[static_cast<std::size_t>(id)]; }
 
 double ValueOf(const Layer& layer, int hours, Point point, Date end, std::uint64_t seed) {
-  if (layer.over == Over::Moment) return layer.quantity(WeatherAt(point, end, seed));
+  if (layer.over == Over::Moment) return layer.quantity(point, end, seed);
   const int step = hours > 24 ? 3 : 2;  // hours
   double sum = 0, least = std::numeric_limits<double>::max(), most = -least;
   for (int hour = 0; hour < hours; hour += step) {
-    const double value = layer.quantity(WeatherAt(point, DateAdd(DateUnit::Hours, -hour, end), seed));
+    const double value = layer.quantity(point, DateAdd(DateUnit::Hours, -hour, end), seed);
     sum += value * std::min(step, hours - hour);
     least = std::min(least, value);
     most = std::max(most, value);

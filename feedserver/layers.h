@@ -14,7 +14,7 @@ enum class Marks { None, Numbers, Arrows, Isobars, Roads };
 struct Layer {
   std::string_view title;
   Scale scale;
-  double (*quantity)(const Weather&);
+  double (*quantity)(Point point, Date gmt, std::uint64_t seed);
   Over over = Over::Moment;
   int hours = 0;              // of the time that it looks back on
   Marks marks = Marks::None;  // what is drawn over the colours; of roads alone the colours are on them
