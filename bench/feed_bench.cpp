@@ -38,6 +38,18 @@ BENCHMARK_CAPTURE(Picture, Pressure, "/analysis.106.12z.000.png")->Unit(benchmar
 BENCHMARK_CAPTURE(Picture, Thunder, "/thunder.106.jpg")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Picture, Roads, "/route.306.12z.024.gif")->Unit(benchmark::kMillisecond);
 
+// The storms of five counties, hour after hour of a summer.
+void BulletinsOfFiveTowns(benchmark::State& state) {
+  const feed::World world{.seed = kWetSeed, .storms = true};
+  const std::string query = "pc=66044&pc=73102&pc=30303&pc=60601&pc=85003&t=xml";
+  std::int64_t hour = 0;
+  for ([[maybe_unused]] auto round : state) {
+    const Date now = DateAdd(DateUnit::Hours, hour++ % (92 * 24), MakeDate(2003, 6, 1));
+    benchmark::DoNotOptimize(feed::Answer({"/bulletins.asp", query, now}, world));
+  }
+}
+BENCHMARK(BulletinsOfFiveTowns)->Unit(benchmark::kMillisecond);
+
 // What the outlines take before the first picture.
 void OutlinesDecoded(benchmark::State& state) {
   for ([[maybe_unused]] auto round : state) benchmark::DoNotOptimize(feed::DecodedOutlines());

@@ -1,5 +1,7 @@
 #include "feedserver/answer.h"
 
+#include <algorithm>
+#include <iterator>
 #include <string_view>
 
 #include "feedserver/places.h"
@@ -27,17 +29,21 @@ Reply AnswerForecast(const Request& request, const World& world) {
   return body ? XmlReply(*std::move(body)) : NotFound();
 }
 
+// Those of its places that there are.
+std::vector<Place> PlacesOf(const Query& query) {
+  std::vector<Place> places;
+  for (const std::string_view postal_code : query.All("pc")) {
+    if (const std::optional<Place> place = FindPlace(postal_code)) places.push_back(*place);
+  }
+  return places;
+}
+
 Reply AnswerBulletins(const Request& request, const World& world) {
   const Query query(request.query);
   auto bulletins = world.bulletins ? world.bulletins(request.now) : std::vector<Bulletin>();
   if (world.storms) {
-    for (const std::string_view postal_code : query.All("pc")) {
-      const std::optional<Place> place = FindPlace(postal_code);
-      if (!place) continue;
-      for (Bulletin& bulletin : StormBulletins(*place, request.now, world.seed)) {
-        bulletins.push_back(std::move(bulletin));
-      }
-    }
+    std::ranges::move(StormBulletins(PlacesOf(query), request.now, world.seed),
+                      std::back_inserter(bulletins));
   }
   return XmlReply(BulletinsXml(query, bulletins, request.now));
 }
@@ -76,12 +82,8 @@ std::vector<Request> RequestsAfter(const Request& request) {
   std::vector<Request> requests;
   const Query query(request.query);
   if (request.path != "/forecast.asp" || query.First("d") != "meta") return requests;
-  for (const std::string_view postal_code : query.All("pc")) {
-    const std::optional<Place> place = FindPlace(postal_code);
-    if (place) {
-      requests.push_back({RadarPath({RadarProduct::Reflectivity, place->radar}), "", RadarTime(request.now)});
-    }
-  }
+  for (const Place& place : PlacesOf(query))
+    requests.push_back({RadarPath({RadarProduct::Reflectivity, place.radar}), "", RadarTime(request.now)});
   return requests;
 }
 

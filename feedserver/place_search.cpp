@@ -86,4 +86,34 @@ const PlaceRecord& PointIndex::Nearest(Point point) const {
   return table_.Records()[nearest->place];
 }
 
+CountyIndex::CountyIndex(const PlaceTable& table) : table_(table) {
+  for (std::uint32_t place = 0; const PlaceRecord& record : table.Records()) {
+    if (places_.size() <= record.county) places_.resize(record.county + std::size_t{1});
+    places_[record.county].push_back(place++);
+  }
+}
+
+std::vector<const PlaceRecord*> CountyIndex::TownsOver(const PlaceRecord& record) const {
+  const auto& places = places_[record.county];
+  const auto record_of = [&](std::uint32_t place) { return &table_.Records()[place]; };
+  Direction sum{};
+  for (const std::uint32_t place : places) {
+    const Direction direction = DirectionOf(record_of(place)->Middle());
+    sum = {sum.x + direction.x, sum.y + direction.y, sum.z + direction.z};
+  }
+  std::vector<const PlaceRecord*> towns;
+  const auto add_most = [&](auto measure) {
+    const PlaceRecord* const town = record_of(std::ranges::max(
+        places, {}, [&](std::uint32_t place) { return measure(DirectionOf(record_of(place)->Middle())); }));
+    if (std::ranges::find(towns, town) == towns.end()) towns.push_back(town);
+  };
+  const Direction east{-sum.y, sum.x, 0};
+  add_most([&](const Direction& town) { return Nearness(town, sum); });
+  add_most([&](const Direction& town) { return town.z; });
+  add_most([&](const Direction& town) { return -town.z; });
+  add_most([&](const Direction& town) { return Nearness(town, east); });
+  add_most([&](const Direction& town) { return -Nearness(town, east); });
+  return towns;
+}
+
 }  // namespace skyloft::feed

@@ -50,4 +50,17 @@ class PointIndex {
   std::vector<Entry> entries_;  // from south to north
 };
 
+class CountyIndex {
+ public:
+  explicit CountyIndex(const PlaceTable& table);
+  // Towns that lie all over the county of a record: the one nearest to the middle of all its towns, then the
+  // northernmost, southernmost, easternmost and westernmost; each once, of several alike the lowest postal
+  // code.
+  std::vector<const PlaceRecord*> TownsOver(const PlaceRecord& record) const;
+
+ private:
+  const PlaceTable& table_;
+  std::vector<std::vector<std::uint32_t>> places_;  // of each county of the table
+};
+
 }  // namespace skyloft::feed

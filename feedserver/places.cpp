@@ -62,6 +62,13 @@ Place PlaceOf(const PlaceRecord& record) {
           .minute = observed ? observed->minute : WholeNumber(record.PostalCode()) % 20};
 }
 
+// Null when there is no such place.
+const PlaceRecord* FindRecord(std::string_view postal_code) {
+  const auto& records = Table().Records();
+  const auto found = std::ranges::lower_bound(records, postal_code, {}, &PlaceRecord::PostalCode);
+  return found == records.end() || found->PostalCode() != postal_code ? nullptr : &*found;
+}
+
 // The `number`-th Sunday of a month, midnight.
 Date SundayOf(int year, int month, int number) {
   const int weekday = PartsOf(MakeDate(year, month, 1)).weekday;
@@ -85,11 +92,8 @@ std::size_t PlaceCount() { return Table().Records().size(); }
 Place PlaceAt(std::size_t index) { return PlaceOf(Table().Records().at(index)); }
 
 std::optional<Place> FindPlace(std::string_view postal_code) {
-  const auto& records = Table().Records();
-  const std::string_view wanted = TrimText(postal_code);
-  const auto found = std::ranges::lower_bound(records, wanted, {}, &PlaceRecord::PostalCode);
-  if (found == records.end() || found->PostalCode() != wanted) return {};
-  return PlaceOf(*found);
+  const PlaceRecord* const found = FindRecord(TrimText(postal_code));
+  return found ? std::optional(PlaceOf(*found)) : std::nullopt;
 }
 
 std::optional<Place> FindPlace(std::string_view city, std::string_view state) {
@@ -102,6 +106,14 @@ std::optional<Place> FindPlace(std::string_view city, std::string_view state) {
 Place NearestPlace(Point point) {
   static const PointIndex points(Table());
   return PlaceOf(points.Nearest(point));
+}
+
+std::vector<Place> TownsOverCounty(const Place& place) {
+  static const CountyIndex counties(Table());
+  std::vector<Place> towns;
+  for (const PlaceRecord* const record : counties.TownsOver(*FindRecord(place.postal_code)))
+    towns.push_back(PlaceOf(*record));
+  return towns;
 }
 
 std::string StationOf(const Place& place) {

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/dates.h"
 #include "feedserver/sites.h"
@@ -32,6 +33,10 @@ std::optional<Place> FindPlace(std::string_view postal_code);
 std::optional<Place> FindPlace(std::string_view city, std::string_view state);
 // The place nearest to a point; of several there the one with the lowest postal code.
 Place NearestPlace(Point point);
+
+// Towns that lie all over the county of a place, one in its middle first; the same for all places of a
+// county.
+std::vector<Place> TownsOverCounty(const Place& place);
 
 // Where the weather of a place is observed: "Lawrence Municipal Airport". Most are made up.
 std::string StationOf(const Place& place);

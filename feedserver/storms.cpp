@@ -3,7 +3,10 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <iterator>
+#include <map>
 #include <optional>
+#include <set>
 #include <string>
 
 #include "base/values.h"
@@ -16,30 +19,40 @@ constexpr std::int64_t kStep = 15 * 60;          // seconds; weather is looked a
 constexpr std::int64_t kLongest = 24 * 3600;     // of one stretch of weather
 constexpr int kWatchHours = 4, kFloodHours = 6;  // how far ahead a watch looks
 
-// A place under a field of weather.
-struct Sky {
-  const Place& place;
-  std::uint64_t seed;
-
-  Weather At(Date gmt) const { return WeatherAt(place.point, gmt, seed); }
-};
-
 bool IsTornado(const Weather& weather) { return weather.thunder > 0.9 && weather.wind_speed > 18; }
 bool IsSevere(const Weather& weather) { return weather.thunder > 0.7; }
 
-bool TornadoNow(const Sky& sky, Date gmt) { return IsTornado(sky.At(gmt)); }
-bool SevereNow(const Sky& sky, Date gmt) { return IsSevere(sky.At(gmt)); }
-bool FloodNow(const Sky& sky, Date gmt) { return sky.At(gmt).rain > 0.45; }
+// A town under a field of weather; what it has looked at it remembers, for six kinds look at the same hours.
+class Sky {
+ public:
+  Sky(const Place& town, std::uint64_t seed) : town_(town), seed_(seed) {}
 
-bool Ahead(const Sky& sky, Date gmt, bool (*is_bad)(const Weather&)) {
+  const Place& Town() const { return town_; }
+  const Weather& At(Date gmt) {
+    const auto [found, is_new] = seen_.try_emplace(gmt);
+    if (is_new) found->second = WeatherAt(town_.point, gmt, seed_);
+    return found->second;
+  }
+
+ private:
+  Place town_;
+  std::uint64_t seed_;
+  std::map<Date, Weather> seen_;
+};
+
+bool TornadoNow(Sky& sky, Date gmt) { return IsTornado(sky.At(gmt)); }
+bool SevereNow(Sky& sky, Date gmt) { return IsSevere(sky.At(gmt)); }
+bool FloodNow(Sky& sky, Date gmt) { return sky.At(gmt).rain > 0.45; }
+
+bool Ahead(Sky& sky, Date gmt, bool (*is_bad)(const Weather&)) {
   for (int hour = 1; hour <= kWatchHours; ++hour) {
     if (is_bad(sky.At(DateAdd(DateUnit::Hours, hour, gmt)))) return true;
   }
   return false;
 }
-bool TornadoAhead(const Sky& sky, Date gmt) { return Ahead(sky, gmt, IsTornado); }
-bool SevereAhead(const Sky& sky, Date gmt) { return Ahead(sky, gmt, IsSevere); }
-bool FloodAhead(const Sky& sky, Date gmt) {
+bool TornadoAhead(Sky& sky, Date gmt) { return Ahead(sky, gmt, IsTornado); }
+bool SevereAhead(Sky& sky, Date gmt) { return Ahead(sky, gmt, IsSevere); }
+bool FloodAhead(Sky& sky, Date gmt) {
   double inches = 0;
   for (int hour = 0; hour < kFloodHours; ++hour) inches += sky.At(DateAdd(DateUnit::Hours, hour, gmt)).rain;
   return inches > 1.0;
@@ -48,8 +61,8 @@ bool FloodAhead(const Sky& sky, Date gmt) {
 struct Kind {
   const char* type;
   const char* name;
-  int minutes;  // that one bulletin is in force
-  bool (*holds)(const Sky& sky, Date gmt);
+  int minutes;                        // that one bulletin is in force
+  bool (*holds)(Sky& sky, Date gmt);  // in one town
   const char* advice;
 };
 constexpr std::array<Kind, 6> kKinds = {{
@@ -65,27 +78,35 @@ constexpr std::array<Kind, 6> kKinds = {{
     {"FFA", "FLASH FLOOD WATCH", 360, FloodAhead, "HEAVY RAIN IS EXPECTED. WATCH THE CREEKS."},
 }};
 
+using Skies = std::vector<Sky>;  // over the towns of a county
+
+// The first town that has the weather of a kind; null when none has.
+Sky* FindUnder(const Kind& kind, Skies& skies, Date gmt) {
+  const auto found = std::ranges::find_if(skies, [&](Sky& sky) { return kind.holds(sky, gmt); });
+  return found == skies.end() ? nullptr : &*found;
+}
+
 // The step of the weather's present stretch at which it began: none holds in the length of a bulletin before
 // it. A stretch is looked back over for a day at most. Nothing when there is no such weather.
-std::optional<std::int64_t> BeginOf(const Kind& kind, const Sky& sky, std::int64_t latest,
+std::optional<std::int64_t> BeginOf(const Kind& kind, Skies& skies, std::int64_t latest,
                                     std::int64_t length) {
   std::optional<std::int64_t> begin;
   for (std::int64_t step = latest; step > (begin ? *begin : latest) - length && step > latest - kLongest;
        step -= kStep) {
-    if (kind.holds(sky, Date{step})) begin = step;
+    if (FindUnder(kind, skies, Date{step})) begin = step;
   }
   return begin;
 }
 
 // The start of the bulletin that is in force. From the begin of a stretch on, each bulletin stands for its
 // time, and the next begins where the weather then holds.
-std::optional<Date> IssueOf(const Kind& kind, const Sky& sky, Date now) {
+std::optional<Date> IssueOf(const Kind& kind, Skies& skies, Date now) {
   const std::int64_t length = kind.minutes * 60;
   const std::int64_t latest = now.seconds / kStep * kStep;
-  std::optional<std::int64_t> issued = BeginOf(kind, sky, latest, length);
+  std::optional<std::int64_t> issued = BeginOf(kind, skies, latest, length);
   while (issued && *issued + length <= latest) {
     std::int64_t next = *issued + length;
-    while (next <= latest && !kind.holds(sky, Date{next})) next += kStep;
+    while (next <= latest && !FindUnder(kind, skies, Date{next})) next += kStep;
     issued = next <= latest ? std::optional(next) : std::nullopt;
   }
   return issued ? std::optional(Date{*issued}) : std::nullopt;
@@ -98,10 +119,10 @@ const char* CourseOf(double wind_from) {
   return courses[static_cast<int>(std::floor(wind_from / 45 + 0.5)) % 8];
 }
 
-std::string TextOf(const Kind& kind, const Sky& sky, Date issued, Date expires) {
-  const Place& place = sky.place;
+std::string TextOf(const Kind& kind, Sky& sky, Date issued, Date expires) {
+  const Place& place = sky.Town();
   const auto local = [&](Date gmt) { return Format(LocalTime(place, gmt), "h:nn AM/PM dddd"); };
-  const Weather weather = sky.At(issued);
+  const Weather& weather = sky.At(issued);
   return "SIMULATED. THE NATIONAL WEATHER SERVICE HAS ISSUED A " + std::string(kind.name) + " FOR " +
          UpperCase(place.county) + " COUNTY IN " + UpperCase(place.state_name) + " UNTIL " +
          UpperCase(local(expires)) + ". AT " + UpperCase(local(issued)) + " THE WEATHER NEAR " +
@@ -109,17 +130,35 @@ std::string TextOf(const Kind& kind, const Sky& sky, Date issued, Date expires) 
          NumberText(std::max(5.0, std::round(weather.wind_speed / 5) * 5)) + " MPH. " + kind.advice;
 }
 
+std::string CountyOf(const Place& place) {
+  return std::string(place.state) + ' ' + std::string(place.county);
+}
+
 }  // namespace
 
 std::vector<Bulletin> StormBulletins(const Place& place, Date now, std::uint64_t seed) {
-  const Sky sky{place, seed};
+  Skies skies;
+  for (const Place& town : TownsOverCounty(place)) skies.emplace_back(town, seed);
   std::vector<Bulletin> bulletins;
   for (const Kind& kind : kKinds) {
-    const std::optional<Date> issued = IssueOf(kind, sky, now);
+    const std::optional<Date> issued = IssueOf(kind, skies, now);
     if (!issued) continue;
     const Date expires = DateAdd(DateUnit::Minutes, kind.minutes, *issued);
-    bulletins.push_back(
-        {{std::string(place.postal_code)}, kind.type, *issued, expires, TextOf(kind, sky, *issued, expires)});
+    bulletins.push_back({{CountyOf(place)},
+                         kind.type,
+                         *issued,
+                         expires,
+                         TextOf(kind, *FindUnder(kind, skies, *issued), *issued, expires)});
+  }
+  return bulletins;
+}
+
+std::vector<Bulletin> StormBulletins(const std::vector<Place>& places, Date now, std::uint64_t seed) {
+  std::vector<Bulletin> bulletins;
+  std::set<std::string> counties;
+  for (const Place& place : places) {
+    if (counties.insert(CountyOf(place)).second)
+      std::ranges::move(StormBulletins(place, now, seed), std::back_inserter(bulletins));
   }
   return bulletins;
 }

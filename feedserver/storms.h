@@ -10,9 +10,12 @@
 
 namespace skyloft::feed {
 
-// What is in force at a place at a moment: warnings of what is there, watches for what is to come within
-// hours. A bulletin keeps its times and its text until it expires; weather that goes on after that has a new
-// one. None on a quiet day.
+// What is in force in the county of a place at a moment: warnings of what is over one of its towns, watches
+// for what is to come there within hours. All places of a county have the same, for the county and with the
+// name of the town concerned. A bulletin keeps its times and its text until it expires; weather that goes on
+// after that has a new one. None on a quiet day.
 std::vector<Bulletin> StormBulletins(const Place& place, Date now, std::uint64_t seed);
+// The same for some places: those of each county once, in the order of the places.
+std::vector<Bulletin> StormBulletins(const std::vector<Place>& places, Date now, std::uint64_t seed);
 
 }  // namespace skyloft::feed

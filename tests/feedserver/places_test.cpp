@@ -2,7 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <map>
 #include <set>
+#include <string_view>
+#include <vector>
 
 #include "sample_places.h"
 
@@ -157,6 +161,43 @@ TEST(Places, LocalTimeFollowsTheZone) {
   EXPECT_EQ(LocalTime(*FindPlace("66044"), summer), MakeDate(2008, 6, 30, 22, 30, 0));
   EXPECT_EQ(LocalTime(*FindPlace("96813"), summer), MakeDate(2008, 6, 30, 17, 30, 0));
   EXPECT_EQ(LocalTime(*FindPlace("00901"), summer), MakeDate(2008, 6, 30, 23, 30, 0));
+}
+
+TEST(Places, TownsOverACountyReachFromItsMiddleToItsEnds) {
+  std::map<std::pair<std::string, std::string>, std::vector<Place>> counties;
+  for (std::size_t i = 0; i < PlaceCount(); ++i) {
+    const Place place = PlaceAt(i);
+    if (place.state == "KS" || place.state == "AZ" || place.state == "AK" || place.state == "PR")
+      counties[{std::string(place.state), std::string(place.county)}].push_back(place);
+  }
+  ASSERT_GT(counties.size(), 200u);
+  for (const auto& [county, places] : counties) {
+    const auto towns = TownsOverCounty(places.front());
+    ASSERT_GE(towns.size(), 1u) << county.second;
+    ASSERT_LE(towns.size(), 5u) << county.second;
+    const auto latitude = [](const Place& place) { return place.point.latitude; };
+    const auto north = std::ranges::max(places, {}, latitude), south = std::ranges::min(places, {}, latitude);
+    EXPECT_EQ(std::ranges::max(towns, {}, latitude).postal_code, north.postal_code) << county.second;
+    EXPECT_EQ(std::ranges::min(towns, {}, latitude).postal_code, south.postal_code) << county.second;
+    std::set<std::string_view> codes;
+    for (const Place& town : towns) {
+      EXPECT_EQ(town.state, county.first);
+      EXPECT_EQ(town.county, county.second);
+      EXPECT_TRUE(codes.insert(town.postal_code).second) << town.postal_code << " twice";
+    }
+    for (const Place& place : places) {
+      const auto others = TownsOverCounty(place);
+      EXPECT_TRUE(std::ranges::equal(towns, others, {}, &Place::postal_code, &Place::postal_code))
+          << place.postal_code;
+    }
+  }
+}
+
+TEST(Places, FirstTownOverACountyLiesInItsMiddle) {
+  // The mean of all places of Maricopa County, Arizona, lies in Phoenix; Douglas County, Kansas, is Lawrence
+  // and three villages.
+  EXPECT_EQ(TownsOverCounty(*FindPlace("85326")).front().city, "Phoenix");
+  EXPECT_EQ(TownsOverCounty(*FindPlace("66006")).front().city, "Lawrence");
 }
 
 }  // namespace
