@@ -21,11 +21,6 @@ int LowestRank(const Sector& sector) { return sector.MetresPerPixel() > 5000 ? 1
 
 constexpr double kNameHeight = 7, kNumberHeight = 10;
 
-Box LabelBox(Pixel at, double left, double width, bool has_numbers) {
-  return {std::min(left, at.x) - 3, at.y - (has_numbers ? kNumberHeight + 6 : 6),
-          std::max(left + width, at.x) + 3, at.y + (has_numbers ? 12 : 8)};
-}
-
 // Draws a city with its texts from `left` on.
 void DrawCity(const Sheet& sheet, const City& city, Pixel at, double left, bool has_numbers) {
   Canvas& canvas = sheet.canvas;
@@ -77,17 +72,13 @@ void DrawOutlines(Canvas& canvas, std::span<const DrawnOutline> outlines) {
 }
 
 void DrawCities(const Sheet& sheet, bool has_numbers, Room& room) {
-  constexpr double kGap = 6;  // between a dot and its name
+  const double above = has_numbers ? kNumberHeight + 6 : 6, below = has_numbers ? 12 : 8;
   for (int rank = 1; rank <= LowestRank(*sheet.request.sector); ++rank) {
     for (const City& city : Cities()) {
       if (city.rank != rank) continue;
       const Pixel at = sheet.PixelOf(city.point);
-      const double width = TextWidth(city.name, kNameHeight);
-      for (const double left : {at.x + kGap, at.x - kGap - width}) {
-        if (!room.Take(LabelBox(at, left, width, has_numbers))) continue;
-        DrawCity(sheet, city, at, left, has_numbers);
-        break;
-      }
+      if (const auto left = room.TakeBeside(at, TextWidth(city.name, kNameHeight), above, below))
+        DrawCity(sheet, city, at, *left, has_numbers);
     }
   }
 }

@@ -182,7 +182,6 @@ void DrawLines(Canvas& canvas, const RadarSite& site) {
 }
 
 void DrawMarks(Canvas& canvas, const RadarSite& site) {
-  constexpr double kGap = 6, kMargin = 2;  // between a cross and its name; around a name
   const auto cross = [&](Pixel at, double arm) {
     canvas.DrawHard(std::array{Pixel{at.x - arm, at.y}, Pixel{at.x + arm, at.y}}, kMarks);
     canvas.DrawHard(std::array{Pixel{at.x, at.y - arm}, Pixel{at.x, at.y + arm}}, kMarks);
@@ -196,13 +195,9 @@ void DrawMarks(Canvas& canvas, const RadarSite& site) {
       const Pixel at = RadarPixel(site, city.point);
       if (city.rank != rank || at.x < 0 || at.x > kSize || at.y < 0 || at.y > kSize) continue;
       cross(at, 2);
-      const double width = TextWidth(city.name, kLetters), top = at.y - kLetters / 2;
-      for (const double left : {at.x + kGap, at.x - kGap - width}) {
-        const Box box{left - kMargin, top - kMargin, left + width + kMargin, top + kLetters + 2 * kMargin};
-        if (!room.Take(box)) continue;
-        WriteHard(canvas, city.name, {left, top}, kLetters, kMarks);
-        break;
-      }
+      const double half = kLetters / 2;
+      if (const auto left = room.TakeBeside(at, TextWidth(city.name, kLetters), half + 2, half + 4))
+        WriteHard(canvas, city.name, {*left, at.y - half}, kLetters, kMarks);
     }
   }
 }

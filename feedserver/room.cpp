@@ -19,4 +19,15 @@ bool Room::Take(const Box& box) {
   return is_free;
 }
 
+std::optional<double> Room::TakeBeside(Pixel dot, double width, double above, double below) {
+  constexpr double kGap = 6, kMargin = 3;  // between the dot and its text; around both
+  for (const double left : {dot.x + kGap, dot.x - kGap - width}) {
+    if (Take({std::min(left, dot.x) - kMargin, dot.y - above, std::max(left + width, dot.x) + kMargin,
+              dot.y + below})) {
+      return left;
+    }
+  }
+  return {};
+}
+
 }  // namespace skyloft::feed

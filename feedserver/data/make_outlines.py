@@ -25,7 +25,8 @@ LEAST_LAKE = 0.1  # degrees wide
 COUNTRY = "840"
 NEIGHBOURS = {"124", "484", "643", "192", "044", "320", "084", "340", "222", "558", "188", "591", "170", "862", "332",
               "214", "388", "136", "796", "092", "660", "659", "028", "500", "312", "212", "662", "474", "652", "663",
-              "534", "533", "531", "535", "882", "304", "780", "052", "670", "308"}
+              "534", "533", "531", "535", "882", "304", "780", "052", "670", "308",
+              "328", "740", "076"}
 
 # What a line is part of the rim of, and how it is drawn; outlines.h has the same.
 NO_AREA, COUNTRY_AREA, NEIGHBOUR_AREA, LAKE_AREA = range(4)
@@ -142,7 +143,7 @@ def tolerance(point):
     x, y = (point[0] + 180) % 360 - 180, point[1]
     if -128 < x < -63 and 23 < y < 52 or -69 < x < -64 and 17 < y < 20:
         return 0.012
-    if -172 < x < -50 and 10 < y < 74 or 155 < x and y > 45 or x < -168 and y < 0:
+    if -172 < x < -50 and 5 < y < 74 or 155 < x and y > 45 or x < -168 and y < 0:
         return 0.04 if x < -120 and 50 < y < 71 or 15 < y < 23 else 0.07
     return 3
 

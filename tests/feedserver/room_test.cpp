@@ -28,5 +28,14 @@ TEST(Room, IsTakenOnceAndOnlyWithin) {
   }
 }
 
+TEST(Room, TextFitsRightOfADotOrElseLeftOfIt) {
+  Room room({0, 0, 200, 100});
+  EXPECT_EQ(room.TakeBeside({50, 50}, 40, 5, 5), 56);    // 6 right of it
+  EXPECT_EQ(room.TakeBeside({170, 20}, 40, 5, 5), 124);  // there is no room beyond 200
+  EXPECT_EQ(room.TakeBeside({40, 57}, 30, 5, 5), 4);     // the first text is in its way
+  EXPECT_EQ(room.TakeBeside({50, 50}, 40, 5, 5), std::nullopt);
+  EXPECT_EQ(room.TakeBeside({100, 97}, 40, 5, 5), std::nullopt);  // it would reach below
+}
+
 }  // namespace
 }  // namespace skyloft::feed
