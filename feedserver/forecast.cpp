@@ -9,6 +9,7 @@
 #include "feedserver/products.h"
 #include "feedserver/replies.h"
 #include "feedserver/rows.h"
+#include "feedserver/sun.h"
 #include "feedserver/xml.h"
 
 namespace skyloft::feed {

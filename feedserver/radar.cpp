@@ -9,6 +9,7 @@
 #include "feedserver/cities.h"
 #include "feedserver/grain.h"
 #include "feedserver/lettering.h"
+#include "feedserver/noise.h"
 #include "feedserver/outlines.h"
 #include "feedserver/room.h"
 #include "feedserver/samples.h"
@@ -136,7 +137,7 @@ Samples Measure(const Kind& kind, const RadarSite& site, Date time, std::uint64_
 
 void DrawEchoes(Canvas& canvas, const Kind& kind, const RadarSite& site, Date time, std::uint64_t seed) {
   constexpr double kLeast = 0.01;  // inches
-  constexpr double kDriftPerDay = 9 * kPerLongitude;
+  constexpr double kDriftPerDay = kDrift * kPerLongitude;
   const Samples samples = Measure(kind, site, time, seed);
   const std::vector<double> steps = Steps(kind);
   const double days = static_cast<double>(time.seconds) / 86400;

@@ -1,17 +1,14 @@
 // Simulated weather: one field over the whole earth and all times, the same for the same seed. Every reply is
-// drawn from it, so that current conditions and forecasts agree. Height above the sea is not known to it.
+// drawn from it, so that current conditions and forecasts agree. In the long run its means are those of the
+// climate of a point (climate.h), the height of the land and how near the sea is included.
 #pragma once
 
 #include <cstdint>
 
 #include "base/dates.h"
+#include "feedserver/point.h"
 
 namespace skyloft::feed {
-
-// Degrees; north and east are positive.
-struct Point {
-  double latitude = 0, longitude = 0;
-};
 
 enum class Fall { None, Rain, FreezingRain, FreezingRainAndSnow, RainAndSnow, Snow };
 
@@ -38,14 +35,11 @@ Weather WeatherAt(Point point, Date gmt, std::uint64_t seed);
 // The water of that weather alone, for those who ask often.
 double WaterAt(Point point, Date gmt, std::uint64_t seed);
 
-// The usual highest and lowest temperature of the day around a moment, Fahrenheit.
+// The usual highest and lowest temperature of the day around a moment, Fahrenheit: those of the climate.
 struct Normals {
   double high = 0, low = 0;
 };
 Normals NormalsAt(Point point, Date gmt);
-
-// Height of the sun over the horizon, degrees.
-double SunHeight(Point point, Date gmt);
 
 // Fahrenheit; the temperature itself outside the range of the formula (above 50 or wind under 3 mph).
 // Source: National Weather Service and Environment Canada, wind chill temperature index of 2001.

@@ -15,7 +15,7 @@ namespace skyloft::feed {
 namespace {
 
 const Date kNow = MakeDate(2003, 3, 7, 20, 5, 0);
-constexpr std::uint64_t kWetSeed = 8;  // rain over Kansas and Illinois
+constexpr std::uint64_t kWetSeed = 318;  // rain over Kansas and Illinois
 constexpr Colour kLand{240, 236, 226}, kDot{32, 36, 44};
 
 Reply Ask(const std::string& path, Date now = kNow, std::uint64_t seed = kWetSeed) {

@@ -35,13 +35,6 @@ TEST(Weather, HumidityFollowsFromTheDewPoint) {
   EXPECT_NEAR(RelativeHumidity(86, 68), 55.1, 0.2);
 }
 
-TEST(Weather, SunStandsWhereTheAlmanacHasIt) {
-  EXPECT_NEAR(SunHeight({38.97, -95.24}, MakeDate(2003, 6, 21, 18, 21, 0)), 90 - 38.97 + 23.44, 0.5);
-  EXPECT_NEAR(SunHeight({38.97, -95.24}, MakeDate(2003, 12, 21, 18, 21, 0)), 90 - 38.97 - 23.44, 0.5);
-  EXPECT_LT(SunHeight({38.97, -95.24}, MakeDate(2003, 6, 21, 6, 0, 0)), 0);
-  EXPECT_GT(SunHeight({70, 0}, MakeDate(2003, 6, 21, 0, 0, 0)), 0);  // the midnight sun
-}
-
 // Calls `check` with the weather of points all over the earth, through a year.
 template <class Check>
 void ForManyWeathers(Check check) {
