@@ -61,7 +61,7 @@ class Net {
       parts[i] = (upper + (lower - upper) * down) * kUnits[i];
     }
     return {parts[kMean] - kLapse * parts[kHeight],
-            std::max(parts[kSwing], 0.0),
+            parts[kSwing],
             parts[kWinterRange],
             parts[kSummerRange],
             std::exp(parts[kInches]),

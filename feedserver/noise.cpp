@@ -38,10 +38,11 @@ Noise::Axis::Axis(double place) : corner(static_cast<std::int64_t>(std::floor(pl
 }
 
 Noise::Mixture Noise::Mix(const Pattern& pattern, Point point) const {
-  Mixture mixture{Axis((point.longitude - kDrift * days_) / pattern.cell),
-                  Axis(point.latitude / pattern.cell),
-                  Axis(days_ * 24 / pattern.hours),
-                  {}};
+  constexpr double bend = 0.35, waves = 1.9;  // cells; radians a cell
+  const double x = (point.longitude - kDrift * days_) / pattern.cell, y = point.latitude / pattern.cell;
+  Mixture mixture{Axis(x + bend * std::sin(waves * y)), Axis(y + bend * std::sin(waves * x)),
+                  Axis(days_ * 24 / pattern.hours),     bend * waves * std::cos(waves * y),
+                  bend * waves * std::cos(waves * x),   {}};
   const std::uint64_t bits = Scatter(seed_ + pattern.channel);
   for (const int later : {0, 1}) {
     const std::uint64_t at_time = Scatter(bits, mixture.t.corner + later);
@@ -65,16 +66,19 @@ double Noise::Mixture::Value() const {
 
 Noise::Slope Noise::SlopeAt(const Pattern& pattern, Point point) const {
   const Mixture mixture = Mix(pattern, point);
-  const auto& [x, y, t, corners] = mixture;
+  const auto& [x, y, t, x_bend, y_bend, corners] = mixture;
   const double deviation = std::sqrt(x.variance * y.variance * t.variance);
   const double value = mixture.Value();
   // The quotient's rule: the mixture rises, and so does the deviation that it is divided by.
-  const auto slope = [&](const Axis& axis, double difference) {
+  const auto rise = [&](const Axis& axis, double difference) {
     const double deviation_rise = axis.rise * (axis.share[1] - axis.share[0]) / axis.variance;
-    return (axis.rise * difference / deviation - value * deviation_rise) / pattern.cell;
+    return axis.rise * difference / deviation - value * deviation_rise;
   };
-  return {value, slope(x, y.share[0] * (corners[1] - corners[0]) + y.share[1] * (corners[3] - corners[2])),
-          slope(y, x.share[0] * (corners[2] - corners[0]) + x.share[1] * (corners[3] - corners[1]))};
+  const double along_x =
+      rise(x, y.share[0] * (corners[1] - corners[0]) + y.share[1] * (corners[3] - corners[2]));
+  const double along_y =
+      rise(y, x.share[0] * (corners[2] - corners[0]) + x.share[1] * (corners[3] - corners[1]));
+  return {value, (along_x + along_y * y_bend) / pattern.cell, (along_x * x_bend + along_y) / pattern.cell};
 }
 
 }  // namespace skyloft::feed

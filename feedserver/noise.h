@@ -41,8 +41,10 @@ class Noise {
     double rise;      // of the upper share
     double variance;  // of the mixture
   };
+  // The lattice is bent, so that nothing runs straight along it.
   struct Mixture {
     Axis x, y, t;
+    double x_bend, y_bend;          // rise of x along the unbent y, and of y along the unbent x
     std::array<double, 4> corners;  // lower left, lower right, upper left, upper right; mixed in time
     double Value() const;
   };

@@ -9,18 +9,19 @@
 #include "feedserver/noise.h"
 #include "feedserver/rainfall.h"
 #include "feedserver/sun.h"
+#include "feedserver/wind.h"
 
 namespace skyloft::feed {
 namespace {
 
 using std::numbers::pi;
 
-constexpr Pattern kHighsAndLows{1, 14, 60};
-constexpr Pattern kDisturbances{2, 5, 30};
 constexpr Pattern kAirMasses{3, 16, 72};
 constexpr Pattern kMoisture{4, 8, 30};
 constexpr Pattern kCells{5, 1.5, 4};
 constexpr Pattern kWarmLayers{6, 5, 24};
+
+constexpr double kColdest = -60, kHottest = 125;  // Fahrenheit
 
 // A climate at one time of the year, Fahrenheit.
 struct Season {
@@ -51,54 +52,6 @@ Season SeasonAt(Point point, Date gmt) {
 
 // -1 at three in the night to 1 at three in the afternoon.
 double DayCurve(Point point, Date gmt) { return std::cos(2 * pi * (SolarHour(point, gmt) - 15) / 24); }
-
-// Highs and lows are weaker near the equator.
-struct Pressure {
-  double inches;       // of mercury
-  double system;       // of the highs and lows alone, a standard deviation above the mean
-  double advection;    // of warm air from the equator, standard deviations: behind a high, before a low
-  double east, north;  // rise of the inches a degree
-};
-
-Pressure PressureAt(const Noise& noise, Point point) {
-  constexpr double mean = 29.98, large = 0.19, small = 0.05;
-  constexpr double rise = 1.6;  // of noise across a cell, its standard deviation
-  const Noise::Slope highs = noise.SlopeAt(kHighsAndLows, point);
-  const Noise::Slope disturbances = noise.SlopeAt(kDisturbances, point);
-  const double cosine = std::cos(Radians(point.latitude)), sine = std::sin(Radians(point.latitude));
-  const double size = 1 - 0.7 * std::pow(cosine, 4);
-  const double size_rise = Radians(2.8 * std::pow(cosine, 3) * sine);
-  const double departure = large * highs.value + small * disturbances.value;
-  return {mean + size * departure, highs.value, highs.east * kHighsAndLows.cell / rise,
-          size * (large * highs.east + small * disturbances.east),
-          size * (large * highs.north + small * disturbances.north) + size_rise * departure};
-}
-
-// The balance with the earth's turning, slowed and turned toward the low by the ground. Source: J. R. Holton,
-// An Introduction to Dynamic Meteorology, 1992, sections 3.2 (geostrophic wind) and 5.3 (the Ekman layer).
-void BlowWind(const Pressure& pressure, Point point, Weather& weather) {
-  constexpr double pascals = 3386.39;      // an inch of mercury
-  constexpr double degree = 111.2e3;       // metres of latitude
-  constexpr double air_density = 1.2;      // kilograms a cubic metre
-  constexpr double earth_turn = 7.292e-5;  // radians a second
-  constexpr double miles_an_hour = 2.237;  // of a metre a second
-  constexpr double ground_share = 0.45, ground_turn = 20;
-  constexpr double strongest = 75;
-
-  const double latitude = std::clamp(point.latitude, -80.0, 80.0);
-  const double northward = pressure.north * pascals / degree;
-  const double eastward = pressure.east * pascals / (degree * std::cos(Radians(latitude)));
-
-  // Near the equator the balance fails; 20 degrees stand in for all below.
-  const double side = latitude < 0 ? -1 : 1;
-  const double turning = 2 * earth_turn * std::sin(Radians(std::max(std::abs(latitude), 20.0))) * side;
-  const double east_wind = -northward / (air_density * turning);
-  const double north_wind = eastward / (air_density * turning);
-  const double from = std::atan2(-east_wind, -north_wind) * 180 / pi - ground_turn * side;
-  weather.wind_from = 360 - std::fmod(720 - from, 360);
-  const double speed = std::hypot(east_wind, north_wind) * miles_an_hour * ground_share;
-  weather.wind_speed = strongest * std::tanh(speed / strongest);
-}
 
 Fall FallAt(double temperature, double warm_layer) {
   if (temperature > 37) return Fall::Rain;
@@ -154,21 +107,22 @@ Air AirAt(const Noise& noise, Point point, Date gmt) {
   air.cloud = SmoothStep(threshold - 2.2, threshold - 0.1, air.wetness);
 
   // Clouds narrow the day's range and clear skies widen it; the mean cloud is that of a normal wetness. Highs
-  // and lows also lie apart because the air changes while the day goes on: half a deviation of the days.
+  // and lows also lie apart because the air changes while the day goes on: 0.6 deviations of the days, by
+  // trial.
   const double mean_cloud = std::erfc((threshold - 1.15) / 1.12 / std::numbers::sqrt2) / 2;
   const double range =
-      std::max(2.0, season.range - season.deviation / 2) * (1 - 0.6 * (air.cloud - mean_cloud));
+      std::max(2.0, season.range - 0.6 * season.deviation) * (1 - 0.6 * (air.cloud - mean_cloud));
   air.day_mean = season.mean + season.deviation * (0.8 * air_mass + 0.6 * air.pressure.advection);
-  air.temperature = std::clamp(air.day_mean + range / 2 * day_curve, -60.0, 125.0);
+  air.temperature = std::clamp(air.day_mean + range / 2 * day_curve, kColdest, kHottest);
   return air;
 }
 
 void LetFall(const Noise& noise, Point point, const Air& air, Weather& weather) {
-  const double rate = weather.water = air.rainfall.Rate(air.wetness);
+  const double rate = weather.water;
   if (rate == 0) return;
   weather.fall = FallAt(weather.temperature, noise.Value(kWarmLayers, point));
   weather.is_shower = air.cells > 0.7 && air.wetness < air.rainfall.threshold + 0.7;
-  weather.thunder = SmoothStep(58, 84, weather.temperature) * SmoothStep(0.4, 1.9, air.cells);
+  weather.thunder = SmoothStep(58, 84, air.temperature) * SmoothStep(0.4, 1.9, air.cells);
   const double depth_ratio = weather.temperature < 20 ? 15 : 10;  // of fresh snow to its water
   const bool is_mixed = weather.fall == Fall::RainAndSnow || weather.fall == Fall::FreezingRainAndSnow;
   const double snow_share = weather.fall == Fall::Snow ? 1 : is_mixed ? 0.5 : 0;
@@ -176,20 +130,37 @@ void LetFall(const Noise& noise, Point point, const Air& air, Weather& weather) 
   weather.snow = rate * snow_share * depth_ratio;
 }
 
-// Fahrenheit. The dew point is about that of the usual low of such a day, in a dry climate below it. Source:
-// J. S. Kimball, S. W. Running and R. Nemani, An improved method for estimating surface humidity from daily
-// minimum temperature, Agricultural and Forest Meteorology 85, 1997. It varies with the wetness, and what
-// falls moistens it.
-double DewPointOf(const Air& air, double water) {
+constexpr double kDampest = 84;  // Fahrenheit; no sea is so warm that a dew point would pass it
+
+// Fahrenheit, of air in which nothing falls. The dew point is about that of the usual low of such a day, in a
+// dry climate below it. Source: J. S. Kimball, S. W. Running and R. Nemani, An improved method for estimating
+// surface humidity from daily minimum temperature, Agricultural and Forest Meteorology 85, 1997. It varies
+// with the wetness; a cold spell dries the air, a hot one hardly moistens it. No sea is so warm that it would
+// pass 84.
+double DewPointOf(const Air& air) {
   constexpr double humid = 1.4;  // threshold of a climate that has rain enough
-  const double aridity =
-      std::max(0.0, RainfallOf(air.season.year_rate, WetRate(air.season.mean)).threshold - humid);
+  constexpr double common = 70;
+  const Season& season = air.season;
+  const double aridity = std::max(0.0, RainfallOf(season.year_rate, WetRate(season.mean)).threshold - humid);
   const double threshold = air.rainfall.threshold;
   const double moisture = SmoothStep(threshold - 2.5, threshold, air.wetness);
-  const double depth = air.season.range / 2 + 20 * aridity + 8 - 14 * moisture;
-  const double dew_point = std::min(air.day_mean - depth, air.temperature - 0.5);
-  const double deepest = std::lerp(60, 3, SmoothStep(0, 0.03, water));
-  return std::max(dew_point, air.temperature - deepest);
+  const double depth = season.range / 2 + 20 * aridity + 8 - 14 * moisture;
+  const double spell = (air.day_mean - season.mean) * std::lerp(1, 0.4, SmoothStep(40, 75, season.mean));
+  const double dew_point = season.mean + spell - depth;
+  return dew_point < common
+             ? dew_point
+             : common + (kDampest - common) * std::tanh((dew_point - common) / (kDampest - common));
+}
+
+// What falls evaporates on its way: the air cools by about a third of what it could and comes near to its dew
+// point.
+void Moisten(Weather& weather) {
+  const double soaked = SmoothStep(0, 0.05, weather.water);
+  const double cooling = 0.35 * soaked * std::max(0.0, weather.temperature - weather.dew_point);
+  weather.temperature = std::max(kColdest, weather.temperature - cooling);
+  weather.dew_point = std::lerp(
+      weather.dew_point, std::max(weather.dew_point, std::min(weather.temperature - 5, kDampest)), soaked);
+  weather.dew_point = std::min(weather.dew_point, weather.temperature - 0.5);
 }
 
 void FindVisibility(Weather& weather) {
@@ -215,9 +186,13 @@ Weather WeatherAt(Point point, Date gmt, std::uint64_t seed) {
   weather.pressure = air.pressure.inches;
   weather.cloud = air.cloud;
   weather.temperature = air.temperature;
-  BlowWind(air.pressure, point, weather);
+  const Wind wind = WindOf(air.pressure, point);
+  weather.wind_from = wind.from;
+  weather.wind_speed = wind.speed;
+  weather.dew_point = DewPointOf(air);
+  weather.water = air.rainfall.Rate(air.wetness);
+  Moisten(weather);
   LetFall(noise, point, air, weather);
-  weather.dew_point = DewPointOf(air, weather.water);
   weather.humidity = RelativeHumidity(weather.temperature, weather.dew_point);
   FindVisibility(weather);
   weather.apparent = ApparentTemperature(weather);

@@ -125,6 +125,12 @@ def fields_of(values):
             july_high - july_low, math.log(inches), winter]
 
 
+def bounded(fields):
+    """Without what is impossible, where the sea is far from every station."""
+    mean, swing, winter_range, summer_range, inches, winter = fields
+    return [mean, max(swing, 0), max(winter_range, 4), max(summer_range, 4), inches, min(max(winter, 0), 100)]
+
+
 def read_airports(folder):
     with (pathlib.Path(folder) / "package/data/airports.json").open(encoding="utf-8") as file:
         airports = json.load(file)
@@ -155,7 +161,7 @@ def main():
     net = []
     for row in range(ROWS):
         nodes = [(NORTH - row / PER_DEGREE, WEST + column / PER_DEGREE) for column in range(COLUMNS)]
-        net.append([[ground.at(node)] + kriging.at(node) for node in nodes])
+        net.append([[ground.at(node)] + bounded(kriging.at(node)) for node in nodes])
     OUTPUT.write_bytes(pack(net))
 
 

@@ -71,6 +71,23 @@ void ExpectNorthIs360(const Elements& reply) {
   }
 }
 
+TEST(ForecastSweep, RunsThatFollowTellTheSameHourAlike) {
+  constexpr std::size_t hours = 66, between = 6;
+  ForManyRuns([](Date run, std::uint64_t seed) {
+    const Elements before = AskAll(kWideRange, run, seed);
+    const Elements after = AskAll(kWideRange, DateAdd(DateUnit::Hours, between, run), seed);
+    ASSERT_NE(First(before, "Ut"), First(after, "Ut"));
+    for (const char* tag : {"Ut", "Desc", "Tf", "Df", "Rh", "At", "Wd", "Ws", "Rn", "Sn"}) {
+      const auto old_values = Values(before, tag), new_values = Values(after, tag);
+      ASSERT_EQ(old_values.size(), kTowns * hours) << tag;
+      for (std::size_t i = 0; i < old_values.size(); ++i) {
+        if (i % hours < between) continue;
+        EXPECT_EQ(old_values[i], new_values[i - between]) << tag << ' ' << i;
+      }
+    }
+  });
+}
+
 TEST(ForecastSweep, ModelRunsAreAt0And6And12And18) {
   for (int minutes = 0; minutes < 3 * 24 * 60; minutes += 17) {
     const Date now = DateAdd(DateUnit::Minutes, minutes, kNow);

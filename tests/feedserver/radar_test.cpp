@@ -14,7 +14,7 @@ namespace skyloft::feed {
 namespace {
 
 const Date kNow = MakeDate(2003, 3, 7, 20, 5, 0);
-constexpr std::uint64_t kWetSeed = 318;  // rain over Kansas and Illinois
+constexpr std::uint64_t kWetSeed = 799;  // rain over Kansas and Illinois
 constexpr Colour kGround{0, 0, 0}, kLines{0, 139, 0}, kMarks{205, 0, 0};
 
 const std::string kKansas = "/radar/images/DS.p19r0/SI.ktwx/latest.gif";

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace skyloft::feed {
@@ -92,6 +93,33 @@ TEST(Weather, WaterIsThatOfRainAndSnow) {
       EXPECT_EQ(weather.water, WaterAt(point, kNoon, 8));
     }
   }
+}
+
+TEST(Weather, WhatFallsMoistensTheAirAndNoAirIsMoisterThanThatOfTheWarmestSeas) {
+  int soaked = 0;
+  ForManyWeathers([&](const Weather& weather) {
+    EXPECT_LE(weather.dew_point, 84);
+    if (weather.water < 0.05) return;
+    ++soaked;
+    EXPECT_GE(weather.dew_point, std::min(84.0, weather.temperature - 5) - 1e-9);
+  });
+  EXPECT_GT(soaked, 20);
+}
+
+TEST(Weather, SummersOfTheGulfCoastAreDampAndThoseOfTheDesertDry) {
+  const auto mean_dew_point = [](Point point) {
+    double sum = 0;
+    int hours = 0;
+    for (std::uint64_t seed = 1; seed <= 10; ++seed) {
+      for (int hour = 0; hour < 30 * 24; hour += 5, ++hours)
+        sum += WeatherAt(point, DateAdd(DateUnit::Hours, hour, MakeDate(2003, 7, 1)), seed).dew_point;
+    }
+    return sum / hours;
+  };
+  // The dew points of July in NOAA's hourly normals: Mobile 73, Topeka 67, Phoenix 57.
+  EXPECT_NEAR(mean_dew_point({30.69, -88.25}), 73, 4);
+  EXPECT_NEAR(mean_dew_point({39.07, -95.63}), 67, 4);
+  EXPECT_NEAR(mean_dew_point({33.45, -112.07}), 57, 6);
 }
 
 TEST(Weather, ChangesSlowly) {
