@@ -62,6 +62,8 @@ void Display::ShowTimer(Timer& model) {
     timer = std::make_unique<QTimer>();
     connect(timer.get(), &QTimer::timeout, this, [&model] { Raise([&] { model.Elapse(); }); });
   }
+  // Timers of whole seconds tick together, so that they wake the computer once.
+  timer->setTimerType(model.Interval % 1000 == 0 ? Qt::VeryCoarseTimer : Qt::CoarseTimer);
   const bool runs = timers_run_ && model.Enabled;
   if (!runs) timer->stop();
   if (runs && (!timer->isActive() || timer->interval() != model.Interval)) timer->start(model.Interval);
