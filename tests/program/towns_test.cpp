@@ -1,6 +1,8 @@
 // Towns that the program's own server knows beside those of the demonstration.
 #include <gtest/gtest.h>
 
+#include <random>
+
 #include "feedserver/running_server.h"
 #include "program/program.h"
 
@@ -57,6 +59,55 @@ TEST(Towns, AnyOfTheCountryAreAddedInTheWizard) {
     const std::string page = shown.Page("MainForm.WeatherConditionsBanner");
     EXPECT_NE(page.find("Pressure</B>: " + TextsOf(feed, "Slp").at(0) + " in"), page.npos) << page;
   }
+}
+
+// Places by zip codes drawn by chance, as the server tells them.
+std::vector<std::string> RandomPlaces(const RunningServer& server, size_t count) {
+  std::vector<std::string> places;
+  std::mt19937 random(2003);
+  while (places.size() < count) {
+    const QByteArray zip_code =
+        QByteArray::number(static_cast<int>(random() % 100000)).rightJustified(5, '0');
+    const std::string reply =
+        BodyOf(Get(server.Port(), "/location_setup.asp?t=xml&pc=" + zip_code.toStdString()));
+    if (!TextsOf(reply, "postal_code").empty()) places.push_back(reply);
+  }
+  return places;
+}
+
+// Each is added as the second town and looked at; then the one before it goes.
+TEST(Towns, FiftyDrawnByChanceAreSetUpOneAfterAnotherEachComplete) {
+  const Folder folder;
+  const RunningServer server({"--port", "0"});
+  const std::vector<std::string> places = RandomPlaces(server, 50);
+  QByteArray acts = ActsOfTheFirstPages() + ActsOfATown("66044", "Lawrence");
+  for (size_t i = 0; i < places.size(); ++i) {
+    const QByteArray number = QByteArray::number(static_cast<int>(i));
+    acts += "menu AddLocation\n" +
+            ActsOfATown(QByteArray::fromStdString(TextsOf(places[i], "postal_code").at(0)), "Town" + number) +
+            "select MainForm.LocationSelection 1\nuntil idle 20000\nsnapshot " + folder.Path("s").toUtf8() +
+            number + "\nanswer Yes\nmenu DeleteLocationTitle 0\nuntil idle 20000\n";
+  }
+  const Ending ending = RunInRoot(folder, {"--hosts", "127.0.0.1:" + QString::number(server.Port())},
+                                  acts + "menu ExitSkyloft\n");
+  ASSERT_EQ(ending.code, 0) << ending.errors;
+  for (size_t i = 0; i < places.size(); ++i) {
+    SCOPED_TRACE(places[i]);
+    const Snapshot shown(folder.Path("s") + QString::number(i));
+    EXPECT_EQ(shown.Text("MainForm.LocationLabel", "caption"), "Town" + std::to_string(i));
+    const std::string query = "/forecast.asp?t=xml&d=current&pc=" + TextsOf(places[i], "postal_code").at(0);
+    const std::string pressure = TextsOf(BodyOf(Get(server.Port(), query)), "Slp").at(0);
+    const std::string conditions = shown.Page("MainForm.WeatherConditionsBanner");
+    EXPECT_NE(conditions.find("Pressure</B>: " + pressure + " in"), conditions.npos) << conditions;
+    const std::string planner = shown.Page("MainForm.Display2");
+    EXPECT_NE(planner.find("Wspd"), planner.npos);
+    EXPECT_EQ(planner.find("src=''"), planner.npos);
+    EXPECT_NE(shown.Text("MainForm.Thumbnail", "picture"), "") << "the radar";
+  }
+  // The last one is what is stored.
+  EXPECT_EQ(folder.Setting("Settings/LocationIndexMax"), "0");
+  EXPECT_EQ(folder.Setting("Location0/City"), TextsOf(places.back(), "city").at(0));
+  EXPECT_EQ(folder.Setting("Location0/NEXRADLocation"), TextsOf(places.back(), "radar_station_code").at(0));
 }
 
 }  // namespace
