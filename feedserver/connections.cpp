@@ -45,6 +45,8 @@ class Connection {
 
   int Socket() const { return socket_.Number(); }
   Stage At() const { return stage_; }
+  // Bytes of the reply that it has not taken yet.
+  std::size_t Held() const { return reply_.size(); }
   // When it is served even if the socket is silent.
   Moment Due() const { return due_; }
 
@@ -202,6 +204,7 @@ class Connections::Loop {
       answered.swap(answered_);
     }
     for (Answered& one : answered) {
+      MakeRoomFor(one.reply.bytes.size());
       const auto found = connections_.find(one.id);
       if (found != connections_.end() && !found->second.Reply(std::move(one.reply), now)) {
         connections_.erase(found);
@@ -209,19 +212,33 @@ class Connections::Loop {
     }
   }
 
-  // The connection that has been longest without a whole request.
-  auto Idlest() const {
-    return std::ranges::find(connections_, Stage::Reading,
-                             [](const auto& entry) { return entry.second.At(); });
+  // The replies that have been taken longest go first.
+  void MakeRoomFor(std::size_t bytes) {
+    std::size_t held = bytes;
+    for (const auto& [id, connection] : connections_) held += connection.Held();
+    for (auto at = connections_.begin(); held > kMostHeld && at != connections_.end();) {
+      held -= at->second.Held();
+      at = at->second.Held() > 0 ? connections_.erase(at) : std::next(at);
+    }
   }
-  bool CanAccept() const { return connections_.size() < kMostConnections || Idlest() != connections_.end(); }
+
+  // The connection that is missed least when another wants its place.
+  std::map<Id, Connection>::iterator Dispensable() {
+    for (const Stage stage : {Stage::Closing, Stage::Reading, Stage::Sending}) {
+      const auto found =
+          std::ranges::find(connections_, stage, [](const auto& entry) { return entry.second.At(); });
+      if (found != connections_.end()) return found;
+    }
+    return connections_.end();
+  }
+  bool CanAccept() { return connections_.size() < kMostConnections || Dispensable() != connections_.end(); }
 
   void AcceptAll(Moment now) {
     if (polled_[0].revents == 0) return;
     while (CanAccept()) {
       Descriptor socket = Accept(listener_);
       if (!socket.IsOpen()) return;
-      if (connections_.size() >= kMostConnections) connections_.erase(Idlest());
+      if (connections_.size() >= kMostConnections) connections_.erase(Dispensable());
       connections_.emplace(next_id_++, Connection(std::move(socket), now));
     }
   }

@@ -40,6 +40,7 @@ class Exchange : public httplib::Stream {
     return static_cast<ssize_t>(count);
   }
   ssize_t write(const char* bytes, std::size_t size) override {
+    reply_.reserve(reply_.size() + size);  // the body comes as one
     reply_.append(bytes, size);
     return static_cast<ssize_t>(size);
   }

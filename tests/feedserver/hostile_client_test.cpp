@@ -115,12 +115,17 @@ TEST(HostileClient, SlowSendersKeepNobodyWaitingAndAreLeft) {
 }
 
 TEST(HostileClient, ClientsThatTakeNothingKeepNobodyWaiting) {
-  const RunningServer server({"--port", "0", "--threads", "1", "--fault", "/messages.xml.1=huge@1"});
-  const Client greedy(server.Port(), "/messages.xml.1");
+  const std::string file = "/tmp/skyloft_large_" + std::to_string(getpid());
+  std::ofstream(file) << std::string(16 << 20, 'x');
+  const RunningServer server({"--port", "0", "--threads", "1", "--update", file});
   Clients lazy;
-  for (int i = 0; i < 50; ++i)
+  const long usual = UsualMemory(server);
+  for (int i = 0; i < 30; ++i) lazy.push_back(std::make_unique<Client>(server.Port(), "/skltupdate.exe"));
+  for (int i = 0; i < 400; ++i)
     lazy.push_back(std::make_unique<Client>(server.Port(), "/sfctemp.200.12z.006.gif"));
   for (int i = 0; i < 10; ++i) EXPECT_TRUE(Get(server.Port(), kTarget).starts_with("HTTP/1.1 200"));
+  EXPECT_LT(server.Resident(), usual + (300 << 10)) << "of 480 MB that they asked for";
+  std::remove(file.c_str());
 }
 
 TEST(HostileClient, EndlessLinesAreCutShort) {
