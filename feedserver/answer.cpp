@@ -83,14 +83,8 @@ std::vector<Request> RequestsAfter(const Request& request) {
   const Query query(request.query);
   if (request.path != "/forecast.asp" || query.First("d") != "meta") return requests;
   for (const Place& place : PlacesOf(query))
-    requests.push_back({RadarPath({RadarProduct::Reflectivity, place.radar}), "", RadarTime(request.now)});
+    requests.push_back({RadarPath({RadarProduct::Reflectivity, place.radar}), "", request.now});
   return requests;
-}
-
-std::optional<Request> ExpectedForm(const Request& request) {
-  const auto radar = ReadRadarPath(request.path);
-  if (!radar) return {};
-  return Request{request.path, "", RadarTime(request.now)};
 }
 
 }  // namespace skyloft::feed

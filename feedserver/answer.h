@@ -39,11 +39,7 @@ struct Reply {
 
 Reply Answer(const Request& request, const World& world);
 
-// What a client asks for soon after a request: the radar pictures of the places of its meta data. All have
-// the form of ExpectedForm.
+// What a client asks for soon after a request: the radar pictures of the places of its meta data.
 std::vector<Request> RequestsAfter(const Request& request);
-// A request of a kind that may have been expected, in the form in which it was: at the moment that its
-// picture shows. Nothing for a request of another kind.
-std::optional<Request> ExpectedForm(const Request& request);
 
 }  // namespace skyloft::feed

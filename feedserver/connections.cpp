@@ -130,7 +130,7 @@ class Connection {
 class Connections::Loop {
  public:
   Loop(const std::string& address, int port, int threads, Answer answer)
-      : listener_(Listen(address, port)), answer_(std::move(answer)), workers_(threads) {}
+      : listener_(Listen(address, port)), answer_(std::move(answer)), workers_(threads, kMostConnections) {}
 
   int Port() const { return PortOf(listener_); }
 

@@ -1,4 +1,5 @@
 // skyloft-feed: the companion server.
+#include <malloc.h>
 #include <unistd.h>
 
 #include <exception>
@@ -63,6 +64,9 @@ int Serve(const std::vector<std::string>& arguments) {
 }  // namespace skyloft::feed
 
 int main(int argc, char** argv) {
+#ifdef M_ARENA_MAX
+  mallopt(M_ARENA_MAX, 1);  // one for all threads: a few megabytes less for a server that mostly waits
+#endif
   try {
     return skyloft::feed::Serve({argv + 1, argv + argc});
   } catch (const std::exception& error) {

@@ -26,7 +26,7 @@ struct PictureKey {
 // Several threads may use it at once.
 class PictureStore {
  public:
-  explicit PictureStore(std::size_t most_bytes = 16'000'000) : most_bytes_(most_bytes) {}
+  explicit PictureStore(std::size_t most_bytes = 8'000'000) : most_bytes_(most_bytes) {}
   // The bytes of a picture: those kept, or what `draw` makes of it, once for all who ask meanwhile. When more
   // bytes are kept than may be, those longest not asked for are forgotten. Raises what drawing raised.
   std::string Find(const PictureKey& key, const std::function<std::string()>& draw);

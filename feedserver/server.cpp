@@ -7,8 +7,8 @@
 #include <string_view>
 
 #include "base/guard.h"
-#include "feedserver/ahead.h"
 #include "feedserver/connections.h"
+#include "feedserver/workers.h"
 
 namespace skyloft::feed {
 namespace {
@@ -125,13 +125,18 @@ class Server::Http : private httplib::Server {
       return {.status = 400, .type = "text/plain", .body = "a request of HTTP/1.1 names its host\n"};
     }
     Reply reply;
-    const auto answer = [&] {
-      const auto expected = ExpectedForm(asked);
-      reply = expected ? ahead_.Answer(*expected) : Answer(asked, service_.world);
-      ahead_.Expect(RequestsAfter(asked));
-    };
-    if (Guarded(answer)) return reply;
+    if (Guarded([&] { reply = Answer(asked, service_.world); })) {
+      DrawAhead(asked);
+      return reply;
+    }
     return {.status = 500, .type = "text/plain", .body = "server error\n"};
+  }
+
+  // The pictures that a client asks for next are drawn while it still reads, and kept for it.
+  void DrawAhead(const Request& asked) {
+    for (const Request& next : RequestsAfter(asked)) {
+      ahead_.Do([this, next] { Guarded([&] { Answer(next, service_.world); }); });
+    }
   }
 
   void WriteLog(const httplib::Request& request, const Request& asked, const Reply& reply, FaultKind fault) {
@@ -147,7 +152,7 @@ class Server::Http : private httplib::Server {
   }
 
   Service service_;
-  Ahead ahead_{[this](const Request& request) { return Answer(request, service_.world); }};
+  Workers ahead_{1, 64};
   Connections connections_;  // the last: its threads end before what they use
 };
 

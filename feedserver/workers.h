@@ -2,6 +2,7 @@
 #pragma once
 
 #include <condition_variable>
+#include <cstddef>
 #include <deque>
 #include <functional>
 #include <mutex>
@@ -14,8 +15,8 @@ class Workers {
  public:
   using Job = std::function<void()>;
 
-  // The jobs must not raise.
-  explicit Workers(int threads) {
+  // The jobs must not raise. One is passed over when `most_waiting` others wait already.
+  explicit Workers(int threads, std::size_t most_waiting) : most_waiting_(most_waiting) {
     for (int i = 0; i < threads; ++i) {
       threads_.emplace_back([this](const std::stop_token& stop) { Work(stop); });
     }
@@ -24,6 +25,7 @@ class Workers {
   void Do(Job job) {
     {
       const std::lock_guard lock(mutex_);
+      if (jobs_.size() >= most_waiting_) return;
       jobs_.push_back(std::move(job));
     }
     has_job_.notify_one();
@@ -43,6 +45,7 @@ class Workers {
     }
   }
 
+  const std::size_t most_waiting_;
   std::mutex mutex_;
   std::condition_variable_any has_job_;
   std::deque<Job> jobs_;
