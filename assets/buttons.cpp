@@ -1,198 +1,109 @@
-#include <QPainterPath>
-#include <string_view>
+#include <algorithm>
+#include <iterator>
 
 #include "drawing.h"
+#include "svg_source.h"
 
 namespace skyloft::assets {
 namespace {
 
-enum class Look { Normal, Pressed, Disabled, Lit };
-
-// Glyphs are drawn around (0, 0) in a box of 16 by 16 with the pen and brush of the look.
-using DrawGlyph = void (*)(QPainter& painter);
-
-void FillPolygon(QPainter& painter, std::initializer_list<QPointF> points) {
-  const QPen pen = painter.pen();
-  painter.setPen(Qt::NoPen);
-  painter.drawPolygon(QPolygonF(QList<QPointF>(points)));
-  painter.setPen(pen);
-}
-
-void StrokeLines(QPainter& painter, std::initializer_list<QPointF> points) {
-  painter.drawPolyline(QPolygonF(QList<QPointF>(points)));
-}
-
-void DrawLetters(QPainter& painter, const QString& letters) {
-  QFont font("DejaVu Sans");
-  font.setPixelSize(letters.size() > 5 ? 9 : 10);  // a button is 50 wide
-  font.setBold(true);
-  painter.setFont(font);
-  painter.drawText(QRectF(-40, -10, 80, 20), Qt::AlignCenter, letters);
-}
-
-void DrawLens(QPainter& painter) {
-  painter.setBrush(Qt::NoBrush);
-  painter.drawEllipse(QPointF(-1.5, -1.5), 5.5, 5.5);
-  StrokeLines(painter, {{2.6, 2.6}, {7, 7}});
-  StrokeLines(painter, {{-4, -1.5}, {1, -1.5}});
-}
-
-void DrawWave(QPainter& painter, double y) {
-  QPainterPath wave({-10, y});
-  for (int i = 0; i < 5; ++i) {
-    wave.quadTo(-8 + 4 * i, y + (i % 2 ? 3.5 : -3.5), -6 + 4 * i, y);
-  }
-  painter.setBrush(Qt::NoBrush);
-  painter.drawPath(wave);
-}
-
-void DrawBell(QPainter& painter) {
-  QPainterPath bell({-8, 5});
-  bell.cubicTo(-4, 2, -6, -8, 0, -8);
-  bell.cubicTo(6, -8, 4, 2, 8, 5);
-  bell.closeSubpath();
-  painter.fillPath(bell, painter.brush());
-  painter.fillRect(QRectF(-1, -10, 2, 3), painter.brush());
-  painter.setPen(Qt::NoPen);
-  painter.drawEllipse(QPointF(0, 7), 2.4, 1.6);
-}
-
-void DrawCircling(QPainter& painter) {
-  painter.setBrush(Qt::NoBrush);
-  painter.drawArc(QRectF(-6, -6, 12, 12), 150 * 16, -290 * 16);
-  StrokeLines(painter, {{-8.5, -4.5}, {-5, -2.5}, {-3, -6.5}});
-}
-
-void DrawTornado(QPainter& painter) {
-  constexpr double kHalfWidths[] = {9, 7.5, 5.5, 3.5, 2};
-  for (int i = 0; i < 5; ++i) {
-    const double y = -9 + 4.2 * i, center = i * 0.5;
-    StrokeLines(painter, {{center - kHalfWidths[i], y}, {center + kHalfWidths[i], y}});
-  }
-}
-
-void DrawFlood(QPainter& painter) {
-  FillPolygon(painter, {{0, -11}, {8, -4}, {6, -4}, {6, 0}, {-6, 0}, {-6, -4}, {-8, -4}});
-  DrawWave(painter, 4);
-  DrawWave(painter, 9);
-}
-
 struct Button {
   const char* name;
   int width, height;
-  bool severe;  // has a lit picture "s" in place of a pressed one "r"
-  bool has_disabled;
-  DrawGlyph draw;
+  const char* glyph;  // elements of the source
+  bool has_disabled = true;
 };
 
-const Button kButtons[] = {
-    {"back", 34, 26, false, true,
-     [](QPainter& p) {
-       FillPolygon(p, {{5, -7}, {-6, 0}, {5, 7}});
-     }},
-    {"next", 34, 26, false, true,
-     [](QPainter& p) {
-       FillPolygon(p, {{-6, -7}, {3, 0}, {-6, 7}});
-       FillPolygon(p, {{4, -7}, {7, -7}, {7, 7}, {4, 7}});
-     }},
-    {"play", 34, 26, false, true,
-     [](QPainter& p) {
-       FillPolygon(p, {{-5, -7}, {7, 0}, {-5, 7}});
-     }},
-    {"stop", 34, 26, false, true,
-     [](QPainter& p) {
-       FillPolygon(p, {{-6, -6}, {6, -6}, {6, 6}, {-6, 6}});
-     }},
-    {"local", 50, 26, false, true, [](QPainter& p) { DrawLetters(p, "LOCAL"); }},
-    {"national", 50, 26, false, true, [](QPainter& p) { DrawLetters(p, "NATL"); }},
-    {"zmarea", 34, 26, false, true,
-     [](QPainter& p) {
-       QPen dashes = p.pen();
-       dashes.setCapStyle(Qt::FlatCap);
-       dashes.setDashPattern({1.5, 1.1});
-       p.setPen(dashes);
-       p.setBrush(Qt::NoBrush);
-       p.drawRect(QRectF(-9, -6, 18, 12));
-     }},
-    {"zoomin", 34, 26, false, true,
-     [](QPainter& p) {
-       DrawLens(p);
-       StrokeLines(p, {{-1.5, -4}, {-1.5, 1}});
-     }},
-    {"zoomout", 34, 26, false, true, DrawLens},
-    {"reset", 34, 26, false, true, DrawCircling},
-    {"exit", 26, 26, false, false,
-     [](QPainter& p) {
-       StrokeLines(p, {{-5, -5}, {5, 5}});
-       StrokeLines(p, {{-5, 5}, {5, -5}});
-     }},
-    {"help", 26, 26, false, false,
-     [](QPainter& p) {
-       QPainterPath hook({-3.6, -3});
-       hook.cubicTo({-3.6, -8.5}, {4.2, -8.5}, {4, -3.5});
-       hook.cubicTo({3.9, -0.8}, {0.2, -0.6}, {0.2, 2.6});
-       p.strokePath(hook, p.pen());
-       p.fillRect(QRectF(-0.9, 4.8, 2.2, 2.2), p.brush());
-     }},
-    {"menu", 26, 26, false, false,
-     [](QPainter& p) {
-       for (const double y : {-5.0, 0.0, 5.0}) StrokeLines(p, {{-6, y}, {6, y}});
-     }},
-    {"legend", 50, 26, false, false, [](QPainter& p) { DrawLetters(p, "LEGEND"); }},
-    {"minimize", 26, 26, false, false,
-     [](QPainter& p) {
-       StrokeLines(p, {{-6, 5}, {6, 5}});
-     }},
-    {"tornado", 46, 34, true, true, DrawTornado},
-    {"tstorm", 46, 34, true, true,
-     [](QPainter& p) {
-       FillPolygon(p, {{3, -12}, {-7, 2}, {-1, 2}, {-4, 12}, {7, -3}, {1, -3}});
-     }},
-    {"flood", 46, 34, true, true, DrawFlood},
-    {"personal", 150, 28, true, true, DrawBell},
+constexpr Button kButtons[] = {
+    {"back", 34, 26, "back"},
+    {"next", 34, 26, "next"},
+    {"play", 34, 26, "play"},
+    {"stop", 34, 26, "stop"},
+    {"local", 50, 26, "local"},
+    {"national", 50, 26, "national"},
+    {"zmarea", 34, 26, "area"},
+    {"zoomin", 34, 26, "lens plus"},
+    {"zoomout", 34, 26, "lens minus"},
+    {"reset", 34, 26, "reset"},
+    {"exit", 26, 26, "exit", false},
+    {"help", 26, 26, "help", false},
+    {"menu", 26, 26, "menu", false},
+    {"legend", 50, 26, "legend", false},
+    {"minimize", 26, 26, "minimize", false},
 };
 
-struct Face {
-  QColor top, bottom, edge, glyph;
+// They tell of a warning: it waits, it is being shown, there is none.
+constexpr Button kSevereButtons[] = {
+    {"tornado", 46, 34, "tornado"},
+    {"tstorm", 46, 34, "bolt"},
+    {"flood", 46, 34, "flood"},
+    {"personal", 150, 28, "bell"},
 };
 
-Face FaceOf(Look look) {
-  switch (look) {
-    case Look::Pressed: return {color::kButtonBottom, color::kButtonTop, color::kGold, color::kGold};
-    case Look::Disabled: return {color::kOffTop, color::kOffBottom, color::kOffEdge, color::kOffGlyph};
-    case Look::Lit: return {{0xff, 0x8a, 0x5c}, {0xc8, 0x2c, 0x16}, {0xff, 0xc0, 0xa0}, Qt::white};
-    case Look::Normal: break;
+// A face and the colour of what stands on it.
+class Look {
+ public:
+  Look(const char* face, QRgb letters, int shift = 0)
+      : source_("buttons", letters), face_(face), shift_(shift) {}
+
+  Draw Of(const Button& button) const {
+    return [this, &button](QPainter& painter) {
+      Stretch(painter, button.width, button.height);
+      painter.translate(button.width / 2.0, button.height / 2.0 + shift_);
+      source_.Draw(painter, button.glyph);
+    };
   }
-  return {color::kButtonTop, color::kButtonBottom, color::kButtonEdge, color::kWhite};
-}
 
-QImage DrawButton(const Button& button, Look look) {
-  QImage picture = NewCanvas(button.width, button.height);
-  QPainter painter(&picture);
-  painter.setRenderHint(QPainter::Antialiasing);
-  const Face face = FaceOf(look);
-  painter.setPen(face.edge);
-  painter.setBrush(Downward(button.height, face.top, face.bottom));
-  painter.drawRoundedRect(QRectF(0.5, 0.5, button.width - 1, button.height - 1), 6, 6);
-  painter.translate(button.width / 2.0, button.height / 2.0 + (look == Look::Pressed ? 1 : 0));
-  painter.setPen(QPen(face.glyph, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  painter.setBrush(face.glyph);
-  button.draw(painter);
-  return picture;
-}
+ private:
+  // The face is cut at its edges into nine parts; what lies between the edges is stretched.
+  void Stretch(QPainter& painter, int width, int height) const {
+    constexpr int kFaceWidth = 34, kFaceHeight = 26, kEdge = 9;
+    const double across[] = {0, kEdge, double(width - kEdge), double(width)};
+    const double down[] = {0, kEdge, double(height - kEdge), double(height)};
+    constexpr double kFaceAcross[] = {0, kEdge, kFaceWidth - kEdge, kFaceWidth};
+    constexpr double kFaceDown[] = {0, kEdge, kFaceHeight - kEdge, kFaceHeight};
+    for (std::size_t x = 0; x < 3; ++x) {
+      for (std::size_t y = 0; y < 3; ++y) {
+        const QRectF part(across[x], down[y], across[x + 1] - across[x], down[y + 1] - down[y]);
+        painter.save();
+        painter.setClipRect(part);
+        painter.translate(part.topLeft());
+        painter.scale(part.width() / (kFaceAcross[x + 1] - kFaceAcross[x]),
+                      part.height() / (kFaceDown[y + 1] - kFaceDown[y]));
+        painter.translate(-kFaceAcross[x], -kFaceDown[y]);
+        source_.Draw(painter, face_);
+        painter.restore();
+      }
+    }
+  }
+
+  const SvgSource source_;
+  const char* const face_;
+  const int shift_;  // pixels that the letters lie deeper
+};
 
 }  // namespace
 
-void DrawButtons(const QString& icons) {
+void DrawButtons(const QString& share) {
+  const Look normal("normal", qRgb(0xf2, 0xf7, 0xff)), pressed("pressed", qRgb(0xff, 0xd3, 0x5c), 1),
+      disabled("disabled", qRgb(0x64, 0x7b, 0xa8)), waiting("waiting", qRgb(0xff, 0xff, 0xff)),
+      waiting_dim("waiting-dim", qRgb(0xff, 0xb8, 0xa4)), showing("showing", qRgb(0x2b, 0x16, 0x00));
+  const auto path = [&](const Button& button, const char* look) {
+    return share + "/icons/" + button.name + look + ".gif";
+  };
+  const auto write = [&](const Button& button, const char* letter, const Look& look) {
+    WriteScaled(path(button, letter), {button.width, button.height}, look.Of(button));
+  };
   for (const Button& button : kButtons) {
-    const QString name = icons + "/" + button.name;
-    WriteGif(name + ".gif", DrawButton(button, Look::Normal));
-    if (button.severe) {
-      WriteGif(name + "s.gif", DrawButton(button, Look::Lit));
-    } else {
-      WriteGif(name + "r.gif", DrawButton(button, Look::Pressed));
-    }
-    if (button.has_disabled) WriteGif(name + "d.gif", DrawButton(button, Look::Disabled));
+    write(button, "", normal);
+    write(button, "r", pressed);
+    if (button.has_disabled) write(button, "d", disabled);
+  }
+  for (const Button& button : kSevereButtons) {
+    write(button, "", showing);
+    write(button, "d", disabled);
+    WriteBlinking(path(button, "s"), {button.width, button.height}, waiting.Of(button),
+                  waiting_dim.Of(button));
   }
 }
 

@@ -12,6 +12,8 @@ namespace skyloft::assets {
 namespace {
 
 constexpr int kTransparent = 255;  // the last entry of the 256 colours
+constexpr int kDelay = 60;         // hundredths of a second that a frame stays
+constexpr QRgb kWindow = qRgb(0x0d, 0x1b, 0x36);
 
 struct Palette {
   std::array<GifColorType, 256> colors{};
@@ -58,32 +60,58 @@ void Check(int result, const QString& path) {
   if (result == GIF_ERROR) throw std::runtime_error("cannot write " + path.toStdString());
 }
 
-}  // namespace
+struct Frame {
+  Palette palette;
+  std::unique_ptr<ColorMapObject, decltype(&GifFreeMapObject)> map;
+};
 
-void WriteGif(const QString& path, const QImage& picture) {
-  QImage opaque = NewCanvas(picture.width(), picture.height(), color::kWindowDark);
+Frame MakeFrame(const QImage& picture) {
+  QImage opaque(picture.size(), QImage::Format_RGB32);
+  opaque.fill(kWindow);
   QPainter(&opaque).drawImage(0, 0, picture);
-  Palette palette = MakePalette(opaque.convertToFormat(QImage::Format_RGB32));
+  Palette palette = MakePalette(opaque);
   for (int y = 0, i = 0; y < picture.height(); ++y) {
     for (int x = 0; x < picture.width(); ++x, ++i) {
       if (qAlpha(picture.pixel(x, y)) < 128) palette.pixels[static_cast<std::size_t>(i)] = kTransparent;
     }
   }
+  ColorMapObject* const map = GifMakeMapObject(256, palette.colors.data());
+  return {std::move(palette), {map, &GifFreeMapObject}};
+}
+
+// That the frames take turns for ever.
+void PutLoop(GifFileType* file, const QString& path) {
+  constexpr GifByteType kForEver[] = {1, 0, 0};
+  Check(EGifPutExtensionLeader(file, APPLICATION_EXT_FUNC_CODE), path);
+  Check(EGifPutExtensionBlock(file, 11, "NETSCAPE2.0"), path);
+  Check(EGifPutExtensionBlock(file, sizeof kForEver, kForEver), path);
+  Check(EGifPutExtensionTrailer(file), path);
+}
+
+void PutFrame(GifFileType* file, QSize size, const Frame& frame, int delay, const QString& path) {
+  const GraphicsControlBlock control{DISPOSE_BACKGROUND, false, delay, kTransparent};
+  std::array<GifByteType, 4> extension{};
+  EGifGCBToExtension(&control, extension.data());
+  Check(EGifPutExtension(file, GRAPHICS_EXT_FUNC_CODE, 4, extension.data()), path);
+  Check(EGifPutImageDesc(file, 0, 0, size.width(), size.height(), false, frame.map.get()), path);
+  std::vector<GifByteType> pixels = frame.palette.pixels;
+  Check(EGifPutLine(file, pixels.data(), static_cast<int>(pixels.size())), path);
+}
+
+}  // namespace
+
+void WriteGif(const QString& path, const std::vector<QImage>& frames) {
+  const QSize size = frames.front().size();
   int error = 0;
   GifFileType* file = EGifOpenFileName(QFile::encodeName(path).constData(), false, &error);
   if (!file) throw std::runtime_error("cannot write " + path.toStdString());
   const auto close = [](GifFileType* open) { EGifCloseFile(open, nullptr); };
   const std::unique_ptr<GifFileType, decltype(close)> closer(file, close);
-  const std::unique_ptr<ColorMapObject, decltype(&GifFreeMapObject)> map(
-      GifMakeMapObject(256, palette.colors.data()), &GifFreeMapObject);
   EGifSetGifVersion(file, true);
-  Check(EGifPutScreenDesc(file, picture.width(), picture.height(), 8, 0, map.get()), path);
-  const GraphicsControlBlock control{DISPOSAL_UNSPECIFIED, false, 0, kTransparent};
-  std::array<GifByteType, 4> extension{};
-  EGifGCBToExtension(&control, extension.data());
-  Check(EGifPutExtension(file, GRAPHICS_EXT_FUNC_CODE, 4, extension.data()), path);
-  Check(EGifPutImageDesc(file, 0, 0, picture.width(), picture.height(), false, nullptr), path);
-  Check(EGifPutLine(file, palette.pixels.data(), static_cast<int>(palette.pixels.size())), path);
+  Check(EGifPutScreenDesc(file, size.width(), size.height(), 8, 0, nullptr), path);
+  const int delay = frames.size() > 1 ? kDelay : 0;
+  if (delay > 0) PutLoop(file, path);
+  for (const QImage& frame : frames) PutFrame(file, size, MakeFrame(frame), delay, path);
 }
 
 }  // namespace skyloft::assets

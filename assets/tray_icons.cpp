@@ -1,4 +1,4 @@
-// Temperatures for the tray: white strokes with a dark rim, to be read on light and dark panels.
+// Temperatures for the tray: white strokes on a dark plate, to be read on light and dark panels.
 #include <QPainterPath>
 #include <cmath>
 #include <map>
@@ -8,26 +8,42 @@
 namespace skyloft::assets {
 namespace {
 
+constexpr int kSizes[] = {16, 22, 24, 32, 44, 48, 64};  // of the trays of plain and of scaled displays
+
 // Strokes as "xy" pairs on a grid 0..4 across and 0..6 down; a blank lifts the pen.
 const std::map<char, const char*> kStrokes = {
     {'0', "00 40 46 06 00"},    {'1', "11 20 26"},       {'2', "00 40 43 03 06 46"},
     {'3', "00 40 46 06|13 43"}, {'4', "00 03 43|40 46"}, {'5', "40 00 03 43 46 06"},
     {'6', "40 00 06 46 43 03"}, {'7', "00 40 26"},       {'8', "00 40 46 06 00|03 43"},
-    {'9', "43 03 00 40 46 06"}, {'-', "03 43"},          {'F', "46 46|40 00 06|03 33"},
+    {'9', "43 03 00 40 46 06"}, {'-', "03 43"},          {'F', "40 00 06|03 33"},
 };
 
-// The middle of the pixel: lines of a pixel stay sharp.
-double Snap(double at) { return std::floor(at) + 0.5; }
+// Where the letters of a text lie, in whole pixels, so that their strokes are sharp.
+struct Layout {
+  Layout(int size, int letters)
+      : stroke(Part(size, letters > 2 ? 0.095 : 0.14)),
+        gap(Part(size, letters > 2 ? 0.07 : 0.13)),
+        top(static_cast<int>(std::lround(size * 0.16))),
+        width(std::min((size - 2 * Part(size, 0.07) - (letters - 1) * gap) / letters, Part(size, 0.38))),
+        left((size - letters * width - (letters - 1) * gap) / 2) {}
 
-QPainterPath StrokesOf(char letter, const QRectF& cell) {
+  static int Part(int size, double share) { return std::max(1, static_cast<int>(size * share)); }
+
+  int stroke, gap, top, width, left;
+};
+
+// The middle of a stroke whose edges lie between pixels.
+double Snap(double at, int stroke) { return std::round(at) + stroke / 2.0; }
+
+QPainterPath StrokesOf(char letter, const QRect& cell, int stroke) {
   QPainterPath path;
   bool down = false;
   for (const char* at = kStrokes.at(letter); *at; ++at) {
     if (*at == '|') {
       down = false;
     } else if (*at != ' ') {
-      const QPointF point(Snap(cell.left() + cell.width() * (at[0] - '0') / 4),
-                          Snap(cell.top() + cell.height() * (at[1] - '0') / 6));
+      const QPointF point(Snap(cell.x() + (cell.width() - stroke) * (at[0] - '0') / 4.0, stroke),
+                          Snap(cell.y() + (cell.height() - stroke) * (at[1] - '0') / 6.0, stroke));
       if (down) {
         path.lineTo(point);
       } else {
@@ -40,33 +56,32 @@ QPainterPath StrokesOf(char letter, const QRectF& cell) {
   return path;
 }
 
-QImage DrawTemperature(const std::string& text, int size) {
-  QImage picture = NewCanvas(size, size);
-  QPainter painter(&picture);
-  painter.setRenderHint(QPainter::Antialiasing);
-  const double scale = size / 16.0, count = static_cast<double>(text.size());
-  const double gap = (count > 2 ? 2 : 3) * scale, margin = 1.5 * scale;
-  const double width = std::min((size - 2 * margin - (count - 1) * gap) / count, 5.5 * scale);
-  const double left = (size - count * width - (count - 1) * gap) / 2;
+void DrawTemperature(QPainter& painter, const std::string& text, int size) {
+  const Layout layout(size, static_cast<int>(text.size()));
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(0x0b, 0x1a, 0x3c));
+  painter.drawRoundedRect(QRect(0, 0, size, size), size * 0.19, size * 0.19);
   QPainterPath path;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const double x = left + static_cast<double>(i) * (width + gap);
-    path.addPath(StrokesOf(text[i], {x, 2 * scale, width, size - 4 * scale}));
+  for (int i = 0; const char letter : text) {
+    const int x = layout.left + i++ * (layout.width + layout.gap);
+    path.addPath(StrokesOf(letter, {x, layout.top, layout.width, size - 2 * layout.top}, layout.stroke));
   }
-  painter.strokePath(path, QPen(QColor(6, 14, 40), 3.4 * scale, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  painter.strokePath(
-      path, QPen(Qt::white, (count > 2 ? 1.1 : 1.5) * scale, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  return picture;
+  painter.strokePath(path, QPen(Qt::white, layout.stroke, Qt::SolidLine, Qt::SquareCap, Qt::RoundJoin));
 }
 
 void WriteTrayIcon(const QString& icons, const std::string& text) {
-  WriteIco(icons + "/" + QString::fromStdString(text) + ".ico",
-           {DrawTemperature(text, 16), DrawTemperature(text, 22), DrawTemperature(text, 32)});
+  std::vector<QImage> pictures;
+  for (const int size : kSizes) {
+    pictures.push_back(
+        Paint({size, size}, 1, [&](QPainter& painter) { DrawTemperature(painter, text, size); }));
+  }
+  WriteIco(icons + "/" + QString::fromStdString(text) + ".ico", pictures);
 }
 
 }  // namespace
 
-void DrawTrayIcons(const QString& icons) {
+void DrawTrayIcons(const QString& share) {
+  const QString icons = share + "/icons";
   for (int degrees = -80; degrees <= 130; ++degrees) WriteTrayIcon(icons, std::to_string(degrees));
   for (int degrees = 0; degrees <= 9; ++degrees) WriteTrayIcon(icons, "0" + std::to_string(degrees));
   WriteTrayIcon(icons, "-");

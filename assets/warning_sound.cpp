@@ -25,7 +25,7 @@ qint16 SampleAt(int sample) {
 
 }  // namespace
 
-void MakeWarningSound(const QString& wav) {
+void MakeWarningSound(const QString& share) {
   QByteArray bytes;
   QDataStream out(&bytes, QIODevice::WriteOnly);
   out.setByteOrder(QDataStream::LittleEndian);
@@ -38,7 +38,7 @@ void MakeWarningSound(const QString& wav) {
   out.writeRawData("data", 4);
   out << data_size;
   for (int sample = 0; sample < kSamples; ++sample) out << SampleAt(sample);
-  WriteBytes(wav + "/warning.wav", bytes);
+  WriteBytes(share + "/wav/warning.wav", bytes);
 }
 
 }  // namespace skyloft::assets

@@ -165,7 +165,7 @@ int RunApplication(int argc, char** argv, const AppOptions& options) {
   SetDotsPerInch(options.dots_per_inch);
   QApplication::setPalette(SkinPalette());
   application.setStyleSheet(SkinStyle());
-  application.setWindowIcon(QIcon("skin:app.png"));
+  application.setWindowIcon(QIcon("skin:app.ico"));
   WatchEnd(application);
   AnswerLaterStarts(ComeForward);
   if (!options.script.empty() || !options.snapshot.empty()) AnswerBoxesByScript();
