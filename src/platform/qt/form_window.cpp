@@ -13,6 +13,7 @@
 #include "forms/forms.h"
 #include "platform/qt/dialog_keys.h"
 #include "platform/qt/html/html_view.h"
+#include "platform/qt/scaled_pictures.h"
 #include "platform/qt/skin_style.h"
 #include "platform/qt/text_qt.h"
 #include "platform/qt/view_maker.h"
@@ -46,7 +47,8 @@ FormWindow::FormWindow(Form& form)
       letters_(IsDialog(form) ? MnemonicsOf(form) : std::unordered_map<const Control*, QChar>()) {
   setObjectName(ToQt(form.Name()));
   setFixedSize(form.Width / kTwipsPerPixel, form.Height / kTwipsPerPixel);
-  if (const std::string body = BodyPicture(form); !body.empty()) body_.load("skin:" + ToQt(body));
+  if (const std::string body = BodyPicture(form); !body.empty())
+    body_ = ReadScaledPicture("skin:" + ToQt(body));
   if (form.Name() == "TickerForm") setAttribute(Qt::WA_ShowWithoutActivating);
   MakeViews(*this, form_.Controls());
 }
@@ -165,6 +167,7 @@ void FormWindow::paintEvent(QPaintEvent*) {
   if (body_.isNull()) {
     if (form_.Name() != "TickerForm") painter.fillRect(rect(), QColor(18, 35, 74));
   } else {
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawImage(0, 0, body_);
   }
   painter.setPen(QColor(159, 182, 230));

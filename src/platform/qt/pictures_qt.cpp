@@ -5,6 +5,7 @@
 
 #include <QBuffer>
 #include <QDateTime>
+#include <QFile>
 #include <QFileInfo>
 #include <QHash>
 #include <QImageReader>
@@ -15,6 +16,7 @@
 #include "platform/qt/drive.h"
 #include "platform/qt/files_qt.h"
 #include "platform/qt/indexed_pictures.h"
+#include "platform/qt/scaled_pictures.h"
 
 namespace skyloft {
 namespace {
@@ -23,13 +25,17 @@ constexpr int kLargestSide = 8192;
 constexpr qint64 kLargestArea = qint64{32} * 1024 * 1024;
 constexpr qsizetype kKeptBytes = qsizetype{24} * 1024 * 1024;
 constexpr int kFastPng = 80;  // quality: little compression in little time
+constexpr qint64 kMostFrames = 8;
+constexpr qint64 kAnimatedArea = qint64{1024} * 1024;  // pixels of all frames; what is larger stands still
+constexpr int kShortestDelay = 200;                    // milliseconds; nothing on the screen may flash faster
 
 // A picture that was read, and the file as it was then.
 struct KeptPicture {
   std::string path;
+  QString file;
   QDateTime time;
   qint64 size;
-  QImage image;
+  PictureFrames frames;
 };
 
 // The pictures read last, the newest first; together at most kKeptBytes, but always the newest.
@@ -42,7 +48,7 @@ void DropOldest() {
   qsizetype bytes = 0;
   auto& kept = Kept();
   for (auto picture = kept.begin(); picture != kept.end();) {
-    bytes += picture->image.sizeInBytes();
+    for (const QImage& image : picture->frames.images) bytes += image.sizeInBytes();
     picture = bytes > kKeptBytes && picture != kept.begin() ? kept.erase(picture) : std::next(picture);
   }
 }
@@ -51,23 +57,46 @@ std::list<KeptPicture>::iterator FindKept(const std::string& path) {
   return std::ranges::find(Kept(), path, &KeptPicture::path);
 }
 
-// The picture of a file, decoded once for each change of the file; null when there is none now.
-QImage PictureOf(const std::string& path) {
+// The frames of an animation, as many as are shown, or the one picture that a file holds.
+PictureFrames FramesIn(const ScaledFile& shown) {
+  QFile file(shown.path);
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  PictureFrames frames;
+  QImageReader reader(&file);
+  reader.setDecideFormatFromContent(true);
+  if (!IsSane(reader.size())) return {};
+  const qint64 most = kAnimatedArea / (qint64{reader.size().width()} * reader.size().height());
+  do {
+    QImage image = reader.read();
+    if (image.isNull()) break;
+    image.setDevicePixelRatio(shown.scale);
+    frames.images << image;
+    frames.delay = std::max(reader.nextImageDelay(), kShortestDelay);
+  } while (reader.supportsAnimation() && frames.images.size() < std::min(most, kMostFrames));
+  return frames;
+}
+
+// The picture of a file, decoded once for each change of the file; empty when there is none now.
+PictureFrames PictureOf(const std::string& path) {
   const auto file = PathForReading(path);
-  const QFileInfo info(file ? *file : QString());
+  if (!file) return {};
+  const ScaledFile shown = FileForDisplays(*file);
+  const QFileInfo info(shown.path);
   if (!info.exists()) return {};
   auto& kept = Kept();
   const auto found = FindKept(path);
-  if (found != kept.end() && found->time == info.lastModified() && found->size == info.size()) {
+  if (found != kept.end() && found->file == shown.path && found->time == info.lastModified() &&
+      found->size == info.size()) {
     kept.splice(kept.begin(), kept, found);
-    return found->image;
+    return found->frames;
   }
-  QImage image = ReadPicture(path);
-  if (image.isNull()) return image;
+  PictureFrames frames = FramesIn(shown);
+  if (frames.images.isEmpty() && shown.scale > 1) frames = FramesIn({*file, 1});
+  if (frames.images.isEmpty()) return frames;
   if (found != kept.end()) kept.erase(found);
-  kept.push_front({path, info.lastModified(), info.size(), image});
+  kept.push_front({path, shown.path, info.lastModified(), info.size(), frames});
   DropOldest();
-  return image;
+  return frames;
 }
 
 QRgb RgbOf(PictureColor color) { return qRgb(color.red, color.green, color.blue); }
@@ -154,15 +183,17 @@ bool IsSane(QSize size) {
          qint64{size.width()} * size.height() <= kLargestArea;
 }
 
-QImage LoadedPicture(const std::string& path) {
+PictureFrames LoadedFrames(const std::string& path) {
   if (path.empty()) return {};
-  QImage now = PictureOf(path);
-  if (!now.isNull()) return now;
+  PictureFrames now = PictureOf(path);
+  if (!now.images.isEmpty()) return now;
   const auto kept = FindKept(path);
   if (kept == Kept().end()) return now;
   Kept().splice(Kept().begin(), Kept(), kept);
-  return kept->image;
+  return kept->frames;
 }
+
+QImage LoadedPicture(const std::string& path) { return LoadedFrames(path).images.value(0); }
 
 QImage ReadPicture(const std::string& path) {
   const QList<QImage> images = ReadPictures(path, 1);
@@ -176,9 +207,10 @@ QList<QImage> ReadPictures(const std::string& path, int most) {
 }
 
 void LoadPicture(Picture& control, const std::string& path) {
-  const QImage image = PictureOf(path);
+  const QImage image = PictureOf(path).images.value(0);
   if (image.isNull()) throw RuntimeError("no picture: " + path);
-  control.SetPicture(path, image.width(), image.height());
+  const QSize size = image.deviceIndependentSize().toSize();
+  control.SetPicture(path, size.width(), size.height());
 }
 
 void ConvertPicture(const std::string& source, const std::string& target,

@@ -102,10 +102,8 @@ class ViewMaker : public ControlVisitor {
 
   void Visit(Picture& model) override {
     auto* label = new ClickLabel(ParentOf(model));
-    label->setAlignment(Qt::AlignCenter);
     if (model.Click) label->clicked = [&model] { Raise([&] { model.Press(); }); };
-    Keep(model, label,
-         [&model, label] { label->setPixmap(QPixmap::fromImage(LoadedPicture(model.PicturePath()))); });
+    Keep(model, label, [&model, label] { label->SetPicture(LoadedPicture(model.PicturePath())); });
   }
 
   void Visit(ImageButton& model) override {
@@ -114,7 +112,11 @@ class ViewMaker : public ControlVisitor {
     QObject::connect(button, &QAbstractButton::pressed, button, [&model] { Raise([&] { model.Down(); }); });
     QObject::connect(button, &QAbstractButton::released, button, [&model] { Raise([&] { model.Up(); }); });
     QObject::connect(button, &QAbstractButton::clicked, button, [&model] { Raise([&] { model.Press(); }); });
-    Keep(model, button, [&model, button] { button->SetImage(LoadedPicture(model.PicturePath())); });
+    Keep(model, button, [&model, button] {
+      PictureFrames frames = LoadedFrames(model.PicturePath());
+      if (!model.Click) frames.images.resize(std::min<qsizetype>(frames.images.size(), 1));  // nothing calls
+      button->SetFrames(frames);
+    });
   }
 
   void Visit(ImageView& model) override {

@@ -5,23 +5,64 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QStyle>
 
 #include "platform/qt/text_qt.h"
 
 namespace skyloft {
+namespace {
 
-void PictureButton::SetImage(const QImage& image) {
-  image_ = image;
+void DrawInTheMiddle(QPainter& painter, const QRect& place, const QImage& image) {
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  const QSize size = image.deviceIndependentSize().toSize();
+  painter.drawImage(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, place), image);
+}
+
+}  // namespace
+
+void PictureButton::SetFrames(const PictureFrames& frames) {
+  frames_ = frames;
+  frame_ = 0;
+  TakeTurns();
+  update();
+}
+
+void PictureButton::TakeTurns() {
+  if (isVisible() && frames_.images.size() > 1) {
+    turns_.start(frames_.delay, this);
+  } else {
+    turns_.stop();
+  }
+}
+
+void PictureButton::showEvent(QShowEvent*) { TakeTurns(); }
+
+void PictureButton::hideEvent(QHideEvent*) { TakeTurns(); }
+
+void PictureButton::timerEvent(QTimerEvent* event) {
+  if (event->timerId() != turns_.timerId()) return QAbstractButton::timerEvent(event);
+  frame_ = (frame_ + 1) % frames_.images.size();
   update();
 }
 
 void PictureButton::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.drawImage(QPoint((width() - image_.width()) / 2, (height() - image_.height()) / 2), image_);
+  DrawInTheMiddle(painter, rect(), Shown());
   if (!hasFocus()) return;
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QColor(255, 211, 92));
   painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 5, 5);
+}
+
+void ClickLabel::SetPicture(const QImage& picture) {
+  picture_ = picture;
+  update();
+}
+
+void ClickLabel::paintEvent(QPaintEvent* event) {
+  if (picture_.isNull()) return QLabel::paintEvent(event);
+  QPainter painter(this);
+  DrawInTheMiddle(painter, rect(), picture_);
 }
 
 void ClickLabel::mousePressEvent(QMouseEvent* event) {
@@ -76,7 +117,7 @@ void ZoomView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), Qt::black);
   painter.save();
-  painter.setRenderHint(QPainter::SmoothPixmapTransform, zoom_ != 1);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform, zoom_ * devicePixelRatioF() != 1);
   painter.scale(zoom_, zoom_);
   painter.translate(-origin_);
   painter.drawImage(QPoint(0, 0), image_);

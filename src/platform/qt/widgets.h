@@ -6,11 +6,13 @@
 #include <vector>
 
 #include <QAbstractButton>
+#include <QBasicTimer>
 #include <QImage>
 #include <QLabel>
 #include <QWidget>
 
 #include "platform/controls.h"
+#include "platform/qt/pictures_qt.h"
 
 namespace skyloft {
 
@@ -18,24 +20,37 @@ namespace skyloft {
 class PictureButton : public QAbstractButton {
  public:
   explicit PictureButton(QWidget* parent) : QAbstractButton(parent) {}
-  void SetImage(const QImage& image);
-  QSize sizeHint() const override { return image_.size(); }
+  void SetFrames(const PictureFrames& frames);  // of an animation they take turns while the button is seen
+  QSize sizeHint() const override { return Shown().deviceIndependentSize().toSize(); }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+  void timerEvent(QTimerEvent* event) override;
 
  private:
-  QImage image_;
+  QImage Shown() const { return frames_.images.value(frame_); }
+  void TakeTurns();
+
+  PictureFrames frames_;
+  qsizetype frame_ = 0;
+  QBasicTimer turns_;
 };
 
 // A text or picture that can be clicked.
 class ClickLabel : public QLabel {
  public:
   explicit ClickLabel(QWidget* parent) : QLabel(parent) {}
+  void SetPicture(const QImage& picture);  // in the middle, cut at the edges
   std::function<void()> clicked;
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
+
+ private:
+  QImage picture_;
 };
 
 // A bar that shows a position between two ends.

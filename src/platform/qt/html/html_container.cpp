@@ -16,6 +16,15 @@ QColor ColorOf(const litehtml::web_color& color) { return {color.red, color.gree
 QRect RectOf(const litehtml::position& box) { return {box.x, box.y, box.width, box.height}; }
 
 // Each line is a trapezium, so that lines of different colours meet in the corners.
+// The picture as it is, or scaled down if it has more pixels than are drawn.
+QImage TextureOf(const QImage& picture, QSize pixels) {
+  const bool is_larger = picture.width() > pixels.width() || picture.height() > pixels.height();
+  QImage texture =
+      is_larger ? picture.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation) : picture;
+  texture.setDevicePixelRatio(1);
+  return texture;
+}
+
 void PaintBorder(QPainter& painter, const litehtml::border& border, const QList<QPoint>& corners) {
   if (border.width <= 0 || border.style <= litehtml::border_style_hidden || border.color.alpha == 0) return;
   painter.setBrush(ColorOf(border.color));
@@ -107,9 +116,9 @@ void HtmlContainer::load_image(const char* source, const char*, bool) {
 }
 
 void HtmlContainer::get_image_size(const char* source, const char*, litehtml::size& size) {
-  const QImage picture = loader_->Picture(QString::fromUtf8(source));
-  size.width = picture.width();
-  size.height = picture.height();
+  const QSize natural = loader_->Picture(QString::fromUtf8(source)).deviceIndependentSize().toSize();
+  size.width = natural.width();
+  size.height = natural.height();
 }
 
 void HtmlContainer::draw_background(litehtml::uint_ptr, const litehtml::background_paint& background) {
@@ -133,10 +142,12 @@ void HtmlContainer::draw_background(litehtml::uint_ptr, const litehtml::backgrou
     tiles.setBottom(clip.bottom());
   }
   const QSize size(background.image_size.width, background.image_size.height);
-  QBrush brush(size == picture.size()
-                   ? picture
-                   : picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-  brush.setTransform(QTransform::fromTranslate(first.x(), first.y()));
+  const QImage texture = TextureOf(picture, size * painter_->deviceTransform().m11());
+  QBrush brush(texture);
+  brush.setTransform(
+      QTransform::fromTranslate(first.x(), first.y())
+          .scale(double(size.width()) / texture.width(), double(size.height()) / texture.height()));
+  painter_->setRenderHint(QPainter::SmoothPixmapTransform);
   painter_->fillRect(tiles.intersected(clip), brush);
 }
 

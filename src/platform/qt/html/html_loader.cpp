@@ -8,6 +8,8 @@
 #include <QImageReader>
 #include <QUrl>
 
+#include "platform/qt/scaled_pictures.h"
+
 namespace skyloft {
 namespace {
 
@@ -26,7 +28,7 @@ struct LocalPicture {
 };
 
 // Decoded pictures of local files by path, shared by all views: 64 MB.
-QImage ReadLocalPicture(const QString& file) {
+QImage ReadLocalFile(const QString& file) {
   static QCache<QString, LocalPicture> cache(64'000);
   const QFileInfo info(file);
   if (!info.isFile() || info.size() > kMaxFile) return {};
@@ -38,6 +40,15 @@ QImage ReadLocalPicture(const QString& file) {
   QImage picture = DecodeHtmlPicture(source.read(kMaxFile));
   cache.insert(file, new LocalPicture{info.lastModified(), picture},
                1 + static_cast<int>(picture.sizeInBytes() / 1000));
+  return picture;
+}
+
+// On displays of more pixels that for them, if there is one that can be read.
+QImage ReadLocalPicture(const QString& file) {
+  const ScaledFile shown = FileForDisplays(file);
+  QImage picture = ReadLocalFile(shown.path);
+  if (picture.isNull()) return ReadLocalFile(file);
+  picture.setDevicePixelRatio(shown.scale);
   return picture;
 }
 

@@ -28,9 +28,9 @@ class HtmlLoader : public std::enable_shared_from_this<HtmlLoader> {
   HtmlLoader(const HtmlServices& services, std::function<void(bool sheet)> changed)
       : services_(services), changed_(std::move(changed)) {}
 
-  // The picture of an address; empty when there is none (yet). A document keeps what it was given; local
-  // files are read again for a later document when they have changed. Remote ones are asked for by the first
-  // call.
+  // The picture of an address, of a local one that for the displays, with its ratio of pixels; empty when
+  // there is none (yet). A document keeps what it was given; local files are read again for a later document
+  // when they have changed. Remote ones are asked for by the first call.
   QImage Picture(const QString& address);
   // The same for the text of a style sheet, the program's own or a remote one.
   QByteArray StyleSheet(const QString& address);
