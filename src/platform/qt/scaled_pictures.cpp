@@ -26,7 +26,7 @@ QString FileBeside(const QString& file, int scale) {
 }  // namespace
 
 ScaledFile FileForRatio(const QString& file, double ratio) {
-  if (ratio <= 1) return {file, 1};
+  if (ratio <= 1 || !QFile::exists(file)) return {file, 1};
   const int wanted = std::min(static_cast<int>(std::ceil(ratio)), kMostScale);
   std::vector<int> scales;
   for (int scale = wanted; scale <= kMostScale; ++scale) scales.push_back(scale);

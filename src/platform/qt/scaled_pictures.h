@@ -13,8 +13,8 @@ struct ScaledFile {
 };
 
 // What to show in place of a picture's file on a display of `ratio` pixels a unit: of the files beside it the
-// one for that scale, the next larger one, or else the largest; the file itself where nothing lies beside it
-// and for ratios up to 1.
+// one for that scale, the next larger one, or else the largest; the file itself where nothing lies beside it,
+// where it is missing, and for ratios up to 1.
 ScaledFile FileForRatio(const QString& file, double ratio);
 // The same for the largest ratio of all displays.
 ScaledFile FileForDisplays(const QString& file);

@@ -135,6 +135,32 @@ TEST_F(RealPictures, APictureOnShowOutlivesAFileThatGoesOrBreaks) {
   EXPECT_TRUE(LoadedPicture(kTemp + "never.png").isNull());
 }
 
+// Two frames of 2 by 2 pixels, a tenth of a second each, for ever.
+const QByteArray kTwoFrames = QByteArray::fromHex(
+    "474946383961"
+    "02000200800000"
+    "0a141ec86432"
+    "21ff0b4e45545343415045322e300301000000"
+    "21f904000a000000"
+    "2c000000000200020000"
+    "020304401400"
+    "21f904000a000000"
+    "2c000000000200020000"
+    "02034cc21400"
+    "3b");
+
+TEST_F(RealPictures, AnAnimationHasFramesThatFlashNoFasterThanTheEyeBears) {
+  WriteFile(kTemp + "two.gif", kTwoFrames.toStdString());
+  const PictureFrames frames = LoadedFrames(kTemp + "two.gif");
+  ASSERT_EQ(frames.images.size(), 2);
+  EXPECT_EQ(frames.images[0].pixel(0, 0), qRgb(10, 20, 30));
+  EXPECT_EQ(frames.images[1].pixel(0, 0), qRgb(200, 100, 50));
+  EXPECT_EQ(frames.delay, 200);
+  EXPECT_EQ(LoadedPicture(kTemp + "two.gif"), frames.images[0]);
+  Save("one.png", qRgb(1, 2, 3), 0);
+  EXPECT_EQ(LoadedFrames(kTemp + "one.png").images.size(), 1);
+}
+
 TEST_F(RealPictures, OnlyTheOnesUsedLastAreKept) {
   for (int i = 0; i < 8; ++i) {  // 4 MB each
     Save(("big" + std::to_string(i) + ".png").c_str(), qRgb(i, 0, 0), 0, "PNG", {1000, 1000});

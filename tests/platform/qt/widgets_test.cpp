@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPointer>
@@ -159,6 +160,74 @@ TEST_F(ViewOverSquares, WithoutTheToolOrByTheRightButtonNoRectangleIsSpanned) {
 }
 
 // The widgets of the main window, brought up to their models.
+QImage Plain(QSize size, QRgb color) {
+  QImage image(size, QImage::Format_RGB32);
+  image.fill(color);
+  return image;
+}
+
+QList<QAbstractEventDispatcher::TimerInfo> TimersOf(QObject& object) {
+  return QAbstractEventDispatcher::instance()->registeredTimers(&object);
+}
+
+class PictureButtons : public Widgets {
+ protected:
+  PictureButtons() { button_.resize(8, 8); }
+  QRgb Middle() { return Painted(button_).pixel(4, 4); }
+  // What its timer does.
+  void LetTurn() {
+    QTimerEvent event(TimersOf(button_)[0].timerId);
+    QApplication::sendEvent(&button_, &event);
+  }
+
+  const QRgb lit_ = qRgb(255, 0, 0), dim_ = qRgb(60, 0, 0);
+  PictureButton button_{nullptr};
+};
+
+TEST_F(PictureButtons, FramesTakeTurnsWhileTheButtonIsSeen) {
+  button_.SetFrames({{Plain({8, 8}, lit_), Plain({8, 8}, dim_)}, 600});
+  EXPECT_TRUE(TimersOf(button_).isEmpty()) << "nobody sees it";
+  button_.show();
+  ASSERT_EQ(TimersOf(button_).size(), 1);
+  EXPECT_EQ(TimersOf(button_)[0].interval, 600);
+  for (const QRgb color : {lit_, dim_, lit_}) {
+    EXPECT_EQ(Middle(), color);
+    LetTurn();
+  }
+  button_.hide();
+  EXPECT_TRUE(TimersOf(button_).isEmpty());
+}
+
+TEST_F(PictureButtons, OnePictureStandsStill) {
+  button_.show();
+  button_.SetFrames({{Plain({8, 8}, lit_), Plain({8, 8}, dim_)}, 600});
+  button_.SetFrames({{Plain({8, 8}, dim_)}, 600});
+  EXPECT_TRUE(TimersOf(button_).isEmpty());
+  EXPECT_EQ(Middle(), dim_);
+  button_.SetFrames({});
+  EXPECT_EQ(button_.sizeHint(), QSize(0, 0));
+}
+
+// One that is larger than its place is cut at all edges.
+TEST_F(Widgets, APictureStandsInTheMiddleOfItsPlaceOnAnyDisplay) {
+  for (const int scale : {1, 2}) {
+    QImage picture = Plain(QSize(40, 40) * scale, qRgb(9, 9, 9));
+    for (int y = 18 * scale; y < 22 * scale; ++y) {
+      for (int x = 18 * scale; x < 22 * scale; ++x) picture.setPixel(x, y, qRgb(255, 0, 0));
+    }
+    picture.setDevicePixelRatio(scale);
+    ClickLabel label(nullptr);
+    label.resize(20, 10);
+    label.SetPicture(picture);
+    QImage shown(label.size() * scale, QImage::Format_RGB32);
+    shown.setDevicePixelRatio(scale);
+    label.render(&shown);
+    EXPECT_EQ(CountOf(shown, qRgb(255, 0, 0)), 16 * scale * scale);
+    EXPECT_EQ(shown.pixel(8 * scale, 3 * scale), qRgb(255, 0, 0)) << scale;
+    EXPECT_EQ(shown.pixel(12 * scale - 1, 7 * scale - 1), qRgb(255, 0, 0)) << scale;
+  }
+}
+
 class MainWindow : public Widgets {
  protected:
   MainWindow() {

@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QColor>
+#include <QFile>
 #include <QImage>
 #include <QRect>
 #include <QTemporaryDir>
@@ -31,6 +32,19 @@ class Drive {
     QImage picture(size, QImage::Format_RGB32);
     picture.fill(color);
     picture.save(folder_.filePath(name));
+  }
+  // A picture of which every pixel has a colour of its own.
+  static QColor PixelAt(int x, int y) { return {40 + 10 * x, 10 * y, 99}; }
+  void AddPixels(const QString& name, const QSize& size) const {
+    QImage picture(size, QImage::Format_RGB32);
+    for (int y = 0; y < size.height(); ++y) {
+      for (int x = 0; x < size.width(); ++x) picture.setPixelColor(x, y, PixelAt(x, y));
+    }
+    picture.save(folder_.filePath(name));
+  }
+  void AddBytes(const QString& name, const QByteArray& bytes) const {
+    QFile file(folder_.filePath(name));
+    if (file.open(QIODevice::WriteOnly)) file.write(bytes);
   }
   HtmlServices Services() const {
     HtmlServices services;
