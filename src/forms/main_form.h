@@ -18,6 +18,7 @@ struct MainFormControls : Form {
       hidden->Visible = false;
     }
     for (int i = 0; i < ImagePoints.Size(); ++i) ImagePoints[i].Visible = false;
+    NameButtons();
   }
 
   // Left column.
@@ -77,6 +78,39 @@ struct MainFormControls : Form {
   HttpControl HttpData{this, "HttpData", 60000};
   HttpControl HttpRadar{this, "HttpRadar", 60000};
   skyloft::FileList FileList{this, "FileList"};
+
+ private:
+  // What the buttons are for, in words, and the keys that press them.
+  void NameButtons() {
+    const struct {
+      ImageButton& button;
+      const char* purpose;
+      const char* key;
+    } rows[] = {
+        {TornadoButton, "Tornado bulletin", ""},
+        {ThunderstormButton, "Thunderstorm bulletin", ""},
+        {FloodButton, "Flood bulletin", ""},
+        {PersonalAlertButton, "Personal alert", ""},
+        {BackButton, "Previous picture", ""},
+        {NextButton, "Next picture", ""},
+        {PlayButton, "Play", ""},
+        {StopButton, "Stop", ""},
+        {LocalButton, "Local view", ""},
+        {NationalButton, "National view", ""},
+        {AreaZoomButton, "Zoom into an area", ""},
+        {ZoomInButton, "Zoom in", "+"},
+        {ZoomOutButton, "Zoom out", "-"},
+        {ResetButton, "Back to full size", "Home"},
+        {LegendButton, "Show or hide the legend", ""},
+        {HelpButton, "Help", "F1"},
+        {MenuButton, "Menu", "Shift+F10"},
+        {ExitButton, "Hide the window", "Esc"},
+    };
+    for (const auto& row : rows) {
+      row.button.ToolTip = row.purpose;
+      row.button.Key = row.key;
+    }
+  }
 };
 
 extern MainFormControls MainForm;

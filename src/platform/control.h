@@ -156,6 +156,7 @@ class Form : public Control {
   std::vector<SystemMenuEntry> SystemMenu = {{61728, true}, {61456, true}, {61440, true}, {61472, true},
                                              {61488, true}, {0, true},     {61536, true}};
   bool TopMost() const { return (ExStyle & 0x8u) != 0; }
+  bool Titled() const { return (Style & 0xC00000u) != 0; }  // a window with a title bar
   Event Unload;  // a request to close the window; it stays unless the handler hides it
   Event LostFocus;
   MouseEvent MouseDown;                     // on the body of the form

@@ -115,6 +115,7 @@ class ImageButton : public Picture {
   void Down();  // act; then Up, then Press (of Picture)
   void Up();
   Event MouseDown, MouseUp;
+  std::string Key;  // the form's key that presses it, such as "F1"; "" for none
 };
 
 inline constexpr int kRectangleTool = 3;  // of ImageView: the mouse spans a rectangle to zoom

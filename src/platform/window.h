@@ -22,7 +22,7 @@ void ShowSystemMenu(Form& form, int x, int y);
 void ActivateWindow(Form& form);
 // Shows a window and returns when it is hidden again; events go on, but the user reaches no other window.
 void ShowModal(Form& form);
-// Pops up a menu at the mouse: the entries of `menu`, with their submenus.
+// Pops up a menu at the mouse, or where a key asked for it: the entries of `menu`, with their submenus.
 void PopUpMenu(Form& form, MenuItem& menu);
 
 }  // namespace skyloft

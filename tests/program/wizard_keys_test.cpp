@@ -4,9 +4,7 @@
 
 #include <memory>
 
-#include <QProcess>
-#include <QThread>
-
+#include "program/keyboard.h"
 #include "program/program.h"
 #include "x_display.h"
 
@@ -23,31 +21,9 @@ class WizardUnderKeys : public testing::Test {
     run_ = std::make_unique<ProgramRun>(folder_, InRoot(folder_, options),
                                         QStringList{"QT_QPA_PLATFORM=xcb", "DISPLAY=" + display_.Name()});
   }
-  // Runs xdotool; what it prints.
-  QByteArray Tool(const QStringList& arguments) const {
-    QProcess tool;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("DISPLAY", display_.Name());
-    tool.setProcessEnvironment(environment);
-    tool.start("xdotool", arguments);
-    EXPECT_TRUE(tool.waitForFinished(20000)) << "xdotool must be installed";
-    return tool.readAllStandardOutput().trimmed();
-  }
-  bool HasFocus(const char* title) const { return Tool({"getwindowfocus", "getwindowname"}) == title; }
-  bool AwaitFocus(const char* title) const {
-    return Await(10000, [&] { return HasFocus(title); });
-  }
-  // Keys by their names; what begins with "=" is typed.
-  void Keys(const QStringList& keys) const {
-    for (const QString& key : keys) {
-      if (key.startsWith('=')) {
-        Tool({"type", "--delay", "5", key.mid(1)});
-      } else {
-        Tool({"key", key});
-        QThread::msleep(250);  // a page may ask the server
-      }
-    }
-  }
+  bool HasFocus(const char* title) const { return keyboard_.HasFocus(title); }
+  bool AwaitFocus(const char* title) const { return keyboard_.AwaitFocus(title); }
+  void Keys(const QStringList& keys) const { keyboard_.Press(keys); }
   // Ends the program as the desktop would, which saves.
   void End() {
     kill(run_->Process(), SIGTERM);
@@ -58,6 +34,7 @@ class WizardUnderKeys : public testing::Test {
 
   Folder folder_;
   XDisplay display_{XDisplay::Manager::Openbox};
+  const Keyboard keyboard_{display_};
   std::unique_ptr<ProgramRun> run_;
 };
 

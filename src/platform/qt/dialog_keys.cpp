@@ -25,6 +25,7 @@ QString CaptionOf(const Control* control) {
   if (const auto* button = dynamic_cast<const Button*>(control)) return ToQt(button->Caption);
   if (const auto* box = dynamic_cast<const CheckBox*>(control)) return ToQt(box->Caption);
   if (const auto* label = dynamic_cast<const Label*>(control)) return ToQt(label->Caption);
+  if (const auto* frame = dynamic_cast<const Frame*>(control)) return ToQt(frame->Caption);
   return {};
 }
 
@@ -36,6 +37,30 @@ QString Words(const std::string& name) {
     words += c;
   }
   return words;
+}
+
+// What tells its purpose only to the eye.
+QString NameOf(const Control& control) {
+  static const std::unordered_map<std::string, const char*> names = {
+      {"WeatherConditionsBanner", "Current conditions"},
+      {"Thumbnail", "Radar thumbnail"},
+      {"Channel", "Product number"},
+      {"Display1", "Weather map"},
+      {"Display2", "Weather page"},
+      {"Sponsor0", "Banner at the foot"},
+      {"Sponsor1", "Banner at the top"},
+      {"Sponsor2", "Message strip"},
+      {"Sponsor4", "Banner of the bar"},
+      {"SponsorBanner", "Banner"},
+      {"Ticker", "Weather bar"},
+      {"RouteScopeBrowser", "Route report"},
+      {"TabStripOptions", "Options"},
+      {"ProgressBar", "Place in the series"},
+      {"SetupFrame", "Setup page"},
+      {"ImagePoints", "Map mark"},
+  };
+  const auto name = names.find(control.Name().substr(0, control.Name().find('[')));
+  return name == names.end() ? Words(control.Name()) : name->second;
 }
 
 // A letter that no other control has: one that begins a word before any other.
@@ -54,7 +79,8 @@ QChar FreeLetter(const QString& caption, const QString& taken) {
 
 bool NeedsLetter(const Control& control) {
   const auto* label = dynamic_cast<const Label*>(&control);
-  return label ? FieldOf(*label) != nullptr : !CaptionOf(&control).isEmpty();
+  if (label) return FieldOf(*label) != nullptr;
+  return control.Owner()->Titled() && !CaptionOf(&control).isEmpty();
 }
 
 bool PressButton(const Form& form, bool Button::*role) {
@@ -106,11 +132,9 @@ const Control* FieldOf(const Label& label) {
 
 QString SpokenName(const Control& control) {
   const std::string_view type = control.Type();
-  if (type == "Label" || type == "Button" || type == "CheckBox" || type == "OptionButton" ||
-      type == "Frame") {
-    return {};
-  }
-  if (!IsField(&control)) return Words(control.Name());
+  if (type == "Label" || !CaptionOf(&control).isEmpty()) return {};
+  if (const QString purpose = ToQt(control.ToolTip); !purpose.isEmpty()) return purpose;
+  if (!IsField(&control)) return NameOf(control);
   QStringList parts;
   const Control* before = Neighbour(control, -1);
   if (dynamic_cast<const Label*>(before)) {
@@ -118,7 +142,7 @@ QString SpokenName(const Control& control) {
     before = Neighbour(*before, -1);
   }
   if (dynamic_cast<const CheckBox*>(before)) parts.prepend(CaptionOf(before));
-  return parts.isEmpty() ? Words(control.Name()) : parts.join(' ');
+  return parts.isEmpty() ? NameOf(control) : parts.join(' ');
 }
 
 bool PressDefault(const Form& form) { return PressButton(form, &Button::Default); }

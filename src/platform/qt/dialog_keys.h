@@ -12,8 +12,9 @@ class QWidget;
 
 namespace skyloft {
 
-// The letters of a form's buttons and boxes, and of the labels that name a field. No two controls that are on
-// show together have the same; where no letter of a caption is free the control has none.
+// The letters of the labels that name a field and, in a window with a title bar, of its buttons and boxes. No
+// two controls that are on show together have the same; where no letter of a caption is free the control has
+// none.
 std::unordered_map<const Control*, QChar> MnemonicsOf(const Form& form);
 
 // The caption as a Qt control takes it: with its letter marked, if it has one, and nothing else.
@@ -22,8 +23,8 @@ QString WithMnemonic(const QString& caption, QChar letter);
 // The field that a label names: the text box or list right behind it; nullptr for none.
 const Control* FieldOf(const Label& label);
 
-// What a control without a caption is called: a field as the label and the box right before it, any other by
-// the words of its name. "" for a control that shows what it is called.
+// What a control without a caption is called: by its tool tip, a field as the label and the box right before
+// it, any other by a name of its own. "" for a control that shows what it is called.
 QString SpokenName(const Control& control);
 
 // Presses the form's default button, or the one that cancels; false when there is none, or when it is off.

@@ -1,7 +1,13 @@
 #include "platform/qt/display.h"
 
-#include <QAbstractEventDispatcher>
+#include <algorithm>
+#include <vector>
 
+#include <QAbstractEventDispatcher>
+#include <QGuiApplication>
+#include <QScreen>
+
+#include "platform/qt/accessible_roles.h"
 #include "platform/qt/form_window.h"
 #include "platform/qt/http_qt.h"
 #include "platform/qt/tray_qt.h"
@@ -16,10 +22,29 @@ Display& Display::Get() {
 void Display::Start() {
   connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
           [this] { ShowDirty(); });
+  WatchScreens();
+  TellRoles();
+}
+
+void Display::WatchScreens() {
+  const auto keep = [this] {
+    for (const auto& [form, window] : windows_) window->KeepInSight();
+  };
+  const auto watch = [this, keep](QScreen* screen) {
+    connect(screen, &QScreen::geometryChanged, this, keep, Qt::QueuedConnection);
+    connect(screen, &QScreen::availableGeometryChanged, this, keep, Qt::QueuedConnection);
+  };
+  const auto* application = qGuiApp;
+  connect(application, &QGuiApplication::screenAdded, this, watch);
+  connect(application, &QGuiApplication::screenRemoved, this, keep, Qt::QueuedConnection);
+  for (QScreen* screen : QGuiApplication::screens()) watch(screen);
 }
 
 void Display::ShowDirty() {
-  for (Control* control : TakeDirtyControls()) {
+  std::vector<Control*> dirty = TakeDirtyControls();
+  // What goes off comes last: the focus then finds what has come on.
+  std::ranges::stable_partition(dirty, [](const Control* control) { return control->Enabled.Get(); });
+  for (Control* control : dirty) {
     if (auto* timer = dynamic_cast<Timer*>(control)) {
       ShowTimer(*timer);
     } else if (dynamic_cast<TrayIcon*>(control)) {

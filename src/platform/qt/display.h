@@ -35,6 +35,8 @@ class Display : public QObject {
 
  private:
   Display() = default;
+  // Screens come, go and change their size: the windows stay where they are seen.
+  void WatchScreens();
   void ShowTimer(Timer& timer);
 
   std::map<const Form*, std::unique_ptr<FormWindow>> windows_;

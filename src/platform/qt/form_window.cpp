@@ -1,34 +1,44 @@
 #include "platform/qt/form_window.h"
 
+#include <algorithm>
+#include <cstdint>
+#include <tuple>
+
 #include <QCloseEvent>
 #include <QCursor>
 #include <QGuiApplication>
+#include <QKeySequence>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPushButton>
+#include <QScreen>
+#include <QTabBar>
 #include <QTimer>
 #include <QWindow>
 
 #include "forms/forms.h"
 #include "platform/qt/dialog_keys.h"
+#include "platform/qt/focus_ring.h"
 #include "platform/qt/html/html_view.h"
+#include "platform/qt/key_act.h"
 #include "platform/qt/scaled_pictures.h"
 #include "platform/qt/skin_style.h"
 #include "platform/qt/text_qt.h"
 #include "platform/qt/view_maker.h"
 #include "platform/qt/widgets.h"
+#include "platform/qt/window_place.h"
 
 namespace skyloft {
 namespace {
 
-bool IsDialog(const Form& form) { return (form.Style & 0xC00000u) != 0; }
+constexpr std::uint32_t kInTaskbar = 0x40000;
 
 // The bits of a form's style that the window acts on, but for the top-most band.
 Qt::WindowFlags FlagsOf(const Form& form) {
-  const bool titled = IsDialog(form);
+  const bool titled = form.Titled();
   const bool tool = (form.ExStyle & 0x80u) != 0;
-  const bool in_taskbar = (form.ExStyle & 0x40000u) != 0;
+  const bool in_taskbar = (form.ExStyle & kInTaskbar) != 0;
   Qt::WindowFlags flags = tool ? Qt::Tool : in_taskbar ? Qt::Window : titled ? Qt::Dialog : Qt::Tool;
   flags |= titled ? Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint
                   : Qt::FramelessWindowHint;
@@ -39,18 +49,54 @@ bool IsSizeable(const Form& form) { return (form.Style & 0x40000u) != 0; }
 
 QPoint PixelsOf(const Form& form) { return {form.Left / kTwipsPerPixel, form.Top / kTwipsPerPixel}; }
 
+// A key as image buttons name theirs.
+QString KeyName(const QKeyEvent& event) {
+  if (IsMenuKey(event)) return "Shift+F10";
+  if (event.key() == Qt::Key_Plus || event.key() == Qt::Key_Minus) return event.text();
+  return QKeySequence(event.keyCombination()).toString(QKeySequence::PortableText);
+}
+
 }  // namespace
 
 FormWindow::FormWindow(Form& form)
-    : QWidget(nullptr, FlagsOf(form)),
-      form_(form),
-      letters_(IsDialog(form) ? MnemonicsOf(form) : std::unordered_map<const Control*, QChar>()) {
+    : QWidget(nullptr, FlagsOf(form)), form_(form), letters_(MnemonicsOf(form)), ring_(new FocusRing(this)) {
   setObjectName(ToQt(form.Name()));
   setFixedSize(form.Width / kTwipsPerPixel, form.Height / kTwipsPerPixel);
   if (const std::string body = BodyPicture(form); !body.empty())
     body_ = ReadScaledPicture("skin:" + ToQt(body));
   if (form.Name() == "TickerForm") setAttribute(Qt::WA_ShowWithoutActivating);
   MakeViews(*this, form_.Controls());
+  MakeFixedCaptions();
+  if (!form.Titled()) OrderTabs();
+}
+
+void FormWindow::MakeFixedCaptions() {
+  for (const FixedCaption& caption : FixedCaptions()) {
+    if (form_.Name() != caption.form) continue;
+    auto* label = new ClickLabel(this);
+    label->setObjectName("FixedCaption");
+    label->setText(caption.text);
+    label->setGeometry(caption.place);
+    auto* list = findChild<ListBox*>(caption.list);
+    label->setBuddy(list);
+    label->reached = [list] { list->showPopup(); };
+    list->setAccessibleName(QString(caption.text).remove('&'));
+  }
+}
+
+void FormWindow::OrderTabs() {
+  const auto rank = [](const Control* control) {
+    const int kind = dynamic_cast<const ListControl*>(control)   ? 0
+                     : dynamic_cast<const ImageButton*>(control) ? 1
+                                                                 : 2;
+    return std::tuple(kind, control->Top.Get(), control->Left.Get());
+  };
+  std::vector<const Control*> order;
+  for (const auto& [control, view] : views_) order.push_back(control);
+  std::ranges::sort(order, {}, rank);
+  for (size_t i = 1; i < order.size(); ++i) {
+    setTabOrder(views_.at(order[i - 1]).widget, views_.at(order[i]).widget);
+  }
 }
 
 void FormWindow::ShowForm() {
@@ -63,6 +109,7 @@ void FormWindow::ShowForm() {
   } else {
     setFixedSize(size);
   }
+  KeepInSight();
   placing_ = true;
   const bool placed = form_.Left != 0 || form_.Top != 0 || windowFlags().testFlag(Qt::FramelessWindowHint);
   // A first move counts also where it changes nothing: without one the desktop places the window.
@@ -71,6 +118,21 @@ void FormWindow::ShowForm() {
   setVisible(form_.Visible);
   PutOnTop(form_.TopMost());
   placing_ = false;
+}
+
+// Without a desktop nobody looks, and every place is kept.
+void FormWindow::KeepInSight() {
+  const bool watched = (form_.ExStyle & kInTaskbar) != 0 && QGuiApplication::platformName() != "offscreen";
+  if (!form_.Visible || !watched) return;
+  QList<ScreenPlace> screens;
+  for (const QScreen* screen : QGuiApplication::screens()) {
+    screens.append({screen->geometry(), screen->availableGeometry()});
+  }
+  const QPoint stored = PixelsOf(form_);
+  const QPoint seen = PlaceInSight({stored, size()}, screens);
+  if (seen == stored) return;  // to the twip
+  form_.Left = seen.x() * kTwipsPerPixel;
+  form_.Top = seen.y() * kTwipsPerPixel;
 }
 
 // The widget would hide its window for this, and a window that comes back takes the focus.
@@ -123,10 +185,26 @@ void FormWindow::mouseReleaseEvent(QMouseEvent* event) {
   Raise([&] { form_.Release(PressOf(*event)); });
 }
 
-// Enter and Esc, unless the control that has the focus takes them.
+bool FormWindow::ActByKey(const QKeyEvent& event) {
+  const std::string key = KeyName(event).toStdString();
+  for (const auto& [control, view] : views_) {
+    const auto* button = dynamic_cast<const ImageButton*>(control);
+    if (!button || button->Key.empty() || button->Key != key || !view.widget->isVisible()) continue;
+    const KeyAct act(view.widget->mapToGlobal(view.widget->rect().bottomLeft()));
+    static_cast<PictureButton*>(view.widget)->click();
+    return true;
+  }
+  if (!IsMenuKey(event) || form_.Titled()) return false;
+  const KeyAct act(mapToGlobal(QPoint(0, 0)));
+  Raise([this] { form_.Press({0, 0, MouseButton::Right}); });
+  Raise([this] { form_.Release({0, 0, MouseButton::Right}); });
+  return true;
+}
+
+// The keys of buttons, unless the control that has the focus takes them.
 void FormWindow::keyPressEvent(QKeyEvent* event) {
-  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (enter) {
+  if (ActByKey(*event)) return;
+  if (IsEnter(*event)) {
     if (auto* button = qobject_cast<QPushButton*>(focusWidget())) return button->click();
     if (PressDefault(form_)) return;
   }
@@ -136,7 +214,9 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
 
 void FormWindow::FocusLater(QWidget& page) {
   QTimer::singleShot(0, &page, [this, &page] {
-    if (!page.isVisible() || page.isAncestorOf(focusWidget()) || FocusFirst(page)) return;
+    if (!page.isVisible() || page.isAncestorOf(focusWidget())) return;
+    if (qobject_cast<QTabBar*>(focusWidget()) || FocusFirst(page))
+      return;  // the arrows go on through the tabs
     for (QPushButton* button : findChildren<QPushButton*>(Qt::FindDirectChildrenOnly)) {
       if (button->isDefault()) button->setFocus();
     }
@@ -169,15 +249,6 @@ void FormWindow::paintEvent(QPaintEvent*) {
   } else {
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawImage(0, 0, body_);
-  }
-  painter.setPen(QColor(159, 182, 230));
-  QFont small = font();
-  small.setPixelSize(11);
-  painter.setFont(small);
-  for (const FixedCaption& caption : FixedCaptions()) {
-    if (form_.Name() == caption.form) {
-      painter.drawText(caption.place, Qt::AlignLeft | Qt::AlignVCenter, caption.text);
-    }
   }
 }
 

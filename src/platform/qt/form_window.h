@@ -13,6 +13,8 @@
 
 namespace skyloft {
 
+class ClickLabel;
+class FocusRing;
 class HtmlView;
 
 class FormWindow : public QWidget {
@@ -22,6 +24,8 @@ class FormWindow : public QWidget {
   void ShowForm();
   void ShowControl(const Control& control);
   void SetRegion(const RoundRegion& region);
+  // Brings a window of the taskbar back that no screen shows any more; its model follows.
+  void KeepInSight();
   // The window follows the mouse until the buttons are up.
   void StartDrag();
   // Whether no page is waiting for a picture.
@@ -39,6 +43,12 @@ class FormWindow : public QWidget {
 
  private:
   void PutOnTop(bool on);
+  void MakeFixedCaptions();
+  // The widgets of a window without a title bar: its lists, then its image buttons, then the others, each by
+  // rows from the left.
+  void OrderTabs();
+  // Whether the key is one of an image button's, or opens the menu of the window's body.
+  bool ActByKey(const QKeyEvent& event);
   // Once control is back in the loop, the first control of a page that has just come up has the focus.
   void FocusLater(QWidget& page);
   QChar LetterOf(const Control& control) const;
@@ -55,6 +65,7 @@ class FormWindow : public QWidget {
   const std::unordered_map<const Control*, QChar> letters_;  // with Alt; a dialog's only
   std::unordered_map<const Control*, View> views_;
   std::vector<HtmlView*> pages_;
+  FocusRing* ring_;
   bool placing_ = false;
   std::optional<QPoint> held_at_;  // the pixel of the window that the mouse drags, where we move it ourselves
 };

@@ -1,7 +1,6 @@
 #include "platform/qt/view_maker.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -10,12 +9,14 @@
 #include <QTabBar>
 
 #include "platform/qt/dialog_keys.h"
+#include "platform/qt/focus_ring.h"
 #include "platform/qt/form_window.h"
 #include "platform/qt/html/html_view.h"
 #include "platform/qt/page_services.h"
 #include "platform/qt/pictures_qt.h"
 #include "platform/qt/text_qt.h"
 #include "platform/qt/widgets.h"
+#include "platform/qt/zoom_view.h"
 
 namespace skyloft {
 namespace {
@@ -31,6 +32,13 @@ Qt::Alignment AlignmentOf(const Label& label) {
   if (name == "LocationLabel" || name == "SevereWeatherLabel" || name == "PersonalLabel")
     return Qt::AlignCenter;
   return Qt::AlignLeft | (label.Height > kOneLine ? Qt::AlignTop : Qt::AlignVCenter);
+}
+
+// The purpose of a button, and its key.
+QString TipOf(const Control& control) {
+  const QString tip = ToQt(control.ToolTip);
+  const auto* button = dynamic_cast<const ImageButton*>(&control);
+  return button && !button->Key.empty() ? tip + " (" + ToQt(button->Key) + ")" : tip;
 }
 
 // A caption as a label of one line shows it: what does not fit ends in dots.
@@ -53,8 +61,7 @@ class ViewMaker : public ControlVisitor {
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(model.Height > kOneLine);
     label->setAlignment(AlignmentOf(model));
-    if (model.Name() == "EmailLink") label->setCursor(Qt::PointingHandCursor);
-    if (model.Click) label->clicked = [&model] { Raise([&] { model.Press(); }); };
+    MakeClickable(model, *label);
     const Control* field = FieldOf(model);
     const QChar letter = window_.LetterOf(model);
     if (field && !letter.isNull()) waiting_[field] = label;
@@ -94,7 +101,7 @@ class ViewMaker : public ControlVisitor {
   }
 
   void Visit(ListControl& model) override {
-    auto* combo = new QComboBox(ParentOf(model));
+    auto* combo = new ListBox(ParentOf(model));
     QObject::connect(combo, &QComboBox::activated, combo,
                      [&model](int index) { Raise([&] { model.Select(index); }); });
     Keep(model, combo, [&model, combo] { ShowList(model, *combo); });
@@ -102,13 +109,18 @@ class ViewMaker : public ControlVisitor {
 
   void Visit(Picture& model) override {
     auto* label = new ClickLabel(ParentOf(model));
-    if (model.Click) label->clicked = [&model] { Raise([&] { model.Press(); }); };
+    MakeClickable(model, *label);
     Keep(model, label, [&model, label] { label->SetPicture(LoadedPicture(model.PicturePath())); });
   }
 
   void Visit(ImageButton& model) override {
     auto* button = new PictureButton(ParentOf(model));
-    if (!model.Click && !model.MouseDown) button->setFocusPolicy(Qt::NoFocus);  // it shows something
+    if (model.Click || model.MouseDown) {
+      button->setCursor(Qt::PointingHandCursor);
+    } else {
+      button->setFocusPolicy(Qt::NoFocus);  // it shows something
+    }
+    window_.ring_->Watch(button);
     QObject::connect(button, &QAbstractButton::pressed, button, [&model] { Raise([&] { model.Down(); }); });
     QObject::connect(button, &QAbstractButton::released, button, [&model] { Raise([&] { model.Up(); }); });
     QObject::connect(button, &QAbstractButton::clicked, button, [&model] { Raise([&] { model.Press(); }); });
@@ -121,6 +133,7 @@ class ViewMaker : public ControlVisitor {
 
   void Visit(ImageView& model) override {
     auto* view = new ZoomView(ParentOf(model));
+    window_.ring_->Watch(view);
     view->pressed = [&model](const MousePress& press) { Raise([&] { Fire(model.MouseDown, press); }); };
     view->dragged = [&model](QPoint from, QPoint to) {
       Raise([&] { model.Drag(from.x(), from.y(), to.x(), to.y()); });
@@ -141,7 +154,10 @@ class ViewMaker : public ControlVisitor {
   void Visit(HtmlDisplay& model) override {
     auto* page = new HtmlView(PageServices(), ParentOf(model));
     page->clicked = [&model] { Raise([&] { model.Press(); }); };
-    page->secondary_clicked = [&model] { Raise([&] { Fire(model.SecondaryClick); }); };
+    if (model.SecondaryClick) {
+      page->secondary_clicked = [&model] { Raise([&] { Fire(model.SecondaryClick); }); };
+    }
+    window_.ring_->Watch(page);
     window_.pages_.push_back(page);
     auto shown = std::make_shared<std::pair<std::string, int>>("", 0);  // document and visit
     Keep(model, page, [&model, page, shown] {
@@ -178,6 +194,9 @@ class ViewMaker : public ControlVisitor {
     for (const std::string& tab : model.Tabs) tabs->addTab(ToQt(tab));
     QObject::connect(tabs, &QTabBar::tabBarClicked, tabs,
                      [&model](int tab) { Raise([&] { model.Select(tab + 1); }); });
+    QObject::connect(tabs, &QTabBar::currentChanged, tabs, [&model](int tab) {
+      if (tab + 1 != model.Selected()) Raise([&] { model.Select(tab + 1); });  // by an arrow
+    });
     Keep(model, tabs, [&model, tabs] { tabs->setCurrentIndex(model.Selected() - 1); });
   }
 
@@ -198,7 +217,7 @@ class ViewMaker : public ControlVisitor {
     });
   }
 
-  static void ShowList(const ListControl& model, QComboBox& combo) {
+  static void ShowList(const ListControl& model, ListBox& combo) {
     QStringList items;
     for (const std::string& item : model.Items()) items << ToQt(item);
     QStringList shown;
@@ -210,22 +229,37 @@ class ViewMaker : public ControlVisitor {
     combo.setCurrentIndex(model.ListIndex());
   }
 
+  template <class Model>
+  void MakeClickable(Model& model, ClickLabel& label) {
+    if (!model.Click) return;
+    label.MakeClickable([&model] { Raise([&] { model.Press(); }); });
+    window_.ring_->Watch(&label);
+  }
+
+  // In a window without a title bar the letter opens the list as well.
+  void NameField(ClickLabel& label, QWidget* field) {
+    label.setBuddy(field);
+    auto* list = dynamic_cast<ListBox*>(field);
+    if (list && !window_.form_.Titled()) label.reached = [list] { list->showPopup(); };
+  }
+
   // What all widgets have in common, and `show` on top of it.
   void Keep(const Control& model, QWidget* widget, std::function<void()> show) {
     widget->setObjectName(ToQt(model.Name()));
     widget->setAccessibleName(SpokenName(model));
-    if (const auto label = waiting_.find(&model); label != waiting_.end()) label->second->setBuddy(widget);
+    if (const auto label = waiting_.find(&model); label != waiting_.end()) NameField(*label->second, widget);
     window_.views_[&model] = {widget, [&model, widget, show = std::move(show)] {
                                 widget->setGeometry(model.Left, model.Top, model.Width, model.Height);
                                 widget->setEnabled(model.Enabled);
-                                widget->setToolTip(ToQt(model.ToolTip));
+                                widget->setToolTip(TipOf(model));
                                 show();
                                 widget->setVisible(model.Visible);
                               }};
   }
 
   FormWindow& window_;
-  std::unordered_map<const Control*, QLabel*> waiting_;  // labels by the field they name, which is made next
+  std::unordered_map<const Control*, ClickLabel*>
+      waiting_;  // labels by the field they name, which is made next
 };
 
 void MakeViews(FormWindow& window, const std::vector<Control*>& controls) {

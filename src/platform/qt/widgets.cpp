@@ -2,12 +2,20 @@
 
 #include <algorithm>
 
+#include <QAbstractItemView>
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QScreen>
+#include <QScrollBar>
 #include <QStyle>
+#include <QStylePainter>
+#include <QStyledItemDelegate>
+#include <QTextLayout>
+#include <QToolTip>
 
-#include "platform/qt/text_qt.h"
+#include "platform/qt/key_act.h"
 
 namespace skyloft {
 namespace {
@@ -18,7 +26,22 @@ void DrawInTheMiddle(QPainter& painter, const QRect& place, const QImage& image)
   painter.drawImage(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, place), image);
 }
 
+constexpr int kLighter = 36;  // of 255, the white over a button under the mouse
+
+QImage Lighter(QImage image) {
+  image = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+  QPainter painter(&image);
+  painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
+  painter.fillRect(image.rect(), QColor(255, 255, 255, kLighter));
+  return image;
+}
+
 }  // namespace
+
+PictureButton::PictureButton(QWidget* parent) : QAbstractButton(parent) {
+  setFocusPolicy(Qt::TabFocus);
+  setAttribute(Qt::WA_Hover);
+}
 
 void PictureButton::SetFrames(const PictureFrames& frames) {
   frames_ = frames;
@@ -47,11 +70,46 @@ void PictureButton::timerEvent(QTimerEvent* event) {
 
 void PictureButton::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  DrawInTheMiddle(painter, rect(), Shown());
-  if (!hasFocus()) return;
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QColor(255, 211, 92));
-  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 5, 5);
+  const bool lit = underMouse() && isEnabled() && cursor().shape() == Qt::PointingHandCursor;
+  DrawInTheMiddle(painter, rect(), lit ? Lighter(Shown()) : Shown());
+}
+
+void PictureButton::keyPressEvent(QKeyEvent* event) {
+  const KeyAct act(mapToGlobal(rect().bottomLeft()));
+  if (IsEnter(*event) && !event->isAutoRepeat()) return click();
+  QAbstractButton::keyPressEvent(event);
+}
+
+void PictureButton::keyReleaseEvent(QKeyEvent* event) {
+  const KeyAct act(mapToGlobal(rect().bottomLeft()));
+  QAbstractButton::keyReleaseEvent(event);
+}
+
+void ClickLabel::MakeClickable(std::function<void()> clicked) {
+  clicked_ = std::move(clicked);
+  setCursor(Qt::PointingHandCursor);
+  setFocusPolicy(Qt::TabFocus);
+}
+
+bool ClickLabel::event(QEvent* event) {
+  const bool taken = QLabel::event(event);
+  if (taken && event->type() == QEvent::Shortcut && reached) reached();
+  return taken;
+}
+
+void ClickLabel::DrawLines() {
+  QTextLayout lines(QString(text()).replace('\n', QChar::LineSeparator), font(), this);
+  const double spacing = std::max(fontMetrics().lineSpacing(), fontInfo().pixelSize() * 5 / 4);
+  lines.beginLayout();
+  double y = 0;
+  for (QTextLine line = lines.createLine(); line.isValid(); line = lines.createLine(), y += spacing) {
+    line.setLineWidth(width());
+    line.setPosition({0, y});
+  }
+  lines.endLayout();
+  QPainter painter(this);
+  painter.setPen(palette().color(foregroundRole()));
+  lines.draw(&painter, {0, 0});
 }
 
 void ClickLabel::SetPicture(const QImage& picture) {
@@ -60,20 +118,59 @@ void ClickLabel::SetPicture(const QImage& picture) {
 }
 
 void ClickLabel::paintEvent(QPaintEvent* event) {
-  if (picture_.isNull()) return QLabel::paintEvent(event);
+  if (picture_.isNull()) return wordWrap() ? DrawLines() : QLabel::paintEvent(event);
   QPainter painter(this);
   DrawInTheMiddle(painter, rect(), picture_);
 }
 
 void ClickLabel::mousePressEvent(QMouseEvent* event) {
-  if (!clicked) return QLabel::mousePressEvent(event);
-  clicked();
+  if (!clicked_) return QLabel::mousePressEvent(event);
+  clicked_();
+}
+
+void ClickLabel::keyPressEvent(QKeyEvent* event) {
+  if (!clicked_ || !(event->key() == Qt::Key_Space || IsEnter(*event))) return QLabel::keyPressEvent(event);
+  clicked_();
+}
+
+ListBox::ListBox(QWidget* parent) : QComboBox(parent) {
+  setMaxVisibleItems(20);
+  setItemDelegate(new QStyledItemDelegate(this));  // the one that heeds the skin
+}
+
+QString ListBox::ShownText() const {
+  QStyleOptionComboBox option;
+  initStyleOption(&option);
+  const QRect field =
+      style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+  return fontMetrics().elidedText(currentText(), Qt::ElideRight, field.width());
+}
+
+void ListBox::showPopup() {
+  const int bar = view()->verticalScrollBar()->sizeHint().width();
+  const int longest = view()->sizeHintForColumn(0) + bar + 2 * view()->frameWidth();
+  view()->setMinimumWidth(std::min(std::max(longest, width()), screen()->availableGeometry().width()));
+  QComboBox::showPopup();
+}
+
+bool ListBox::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip || ShownText() == currentText()) return QComboBox::event(event);
+  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), currentText(), this);
+  return true;
+}
+
+void ListBox::paintEvent(QPaintEvent*) {
+  QStylePainter painter(this);
+  QStyleOptionComboBox option;
+  initStyleOption(&option);
+  option.currentText = ShownText();
+  painter.drawComplexControl(QStyle::CC_ComboBox, option);
+  painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 
 void PositionBar::SetPosition(int min, int max, int value, QColor color) {
-  min_ = min;
-  max_ = max;
-  value_ = std::clamp(value, min, std::max(min, max));
+  setRange(min, std::max(min, max));
+  setValue(std::clamp(value, minimum(), maximum()));
   color_ = color;
   update();
 }
@@ -86,7 +183,8 @@ void PositionBar::paintEvent(QPaintEvent*) {
   QPainterPath outline;
   outline.addRoundedRect(body, radius, radius);
   painter.fillPath(outline, QColor(11, 20, 40));
-  const double part = max_ > min_ ? double(value_ - min_) / (max_ - min_) : 0;
+  const int way = maximum() - minimum();
+  const double part = way > 0 ? double(value() - minimum()) / way : 0;
   painter.save();
   painter.setClipPath(outline);
   painter.fillRect(QRectF(body.left(), body.top(), body.width() * part, body.height()), color_);
@@ -95,80 +193,11 @@ void PositionBar::paintEvent(QPaintEvent*) {
   painter.drawPath(outline);
 }
 
-void ZoomView::SetView(const QImage& image, double zoom, QPoint origin) {
-  image_ = image;
-  zoom_ = zoom;
-  origin_ = origin;
-  update();
-}
+bool IsEnter(const QKeyEvent& event) { return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter; }
 
-void ZoomView::SetOverlay(const std::vector<OverlayText>& overlay) {
-  if (overlay_ == overlay) return;
-  overlay_ = overlay;
-  update();
-}
-
-void ZoomView::SetRectangleTool(bool on) {
-  rectangle_tool_ = on;
-  setCursor(on ? Qt::CrossCursor : Qt::ArrowCursor);
-}
-
-void ZoomView::paintEvent(QPaintEvent*) {
-  QPainter painter(this);
-  painter.fillRect(rect(), Qt::black);
-  painter.save();
-  painter.setRenderHint(QPainter::SmoothPixmapTransform, zoom_ * devicePixelRatioF() != 1);
-  painter.scale(zoom_, zoom_);
-  painter.translate(-origin_);
-  painter.drawImage(QPoint(0, 0), image_);
-  QFont font("Tahoma");
-  font.setPixelSize(18);
-  font.setBold(true);
-  painter.setFont(font);
-  painter.setPen(Qt::white);
-  for (const OverlayText& text : overlay_) {
-    painter.drawText(QPoint(text.x, text.y + painter.fontMetrics().ascent()), ToQt(text.text));
-  }
-  painter.restore();
-  if (!held_at_) return;
-  painter.setPen(QPen(QColor(255, 211, 92), 1, Qt::DashLine));
-  painter.drawRect(QRectF(*held_at_, mouse_).normalized());
-}
-
-void ZoomView::mousePressEvent(QMouseEvent* event) {
-  mouse_ = event->position().toPoint();
-  if (rectangle_tool_ && event->button() == Qt::LeftButton) held_at_ = mouse_;
-  if (pressed) pressed(PressOf(*event));
-}
-
-void ZoomView::mouseMoveEvent(QMouseEvent* event) {
-  mouse_ = event->position().toPoint();
-  if (held_at_) update();
-}
-
-void ZoomView::mouseReleaseEvent(QMouseEvent* event) {
-  if (!held_at_ || event->button() != Qt::LeftButton) return;
-  const QPoint from = *held_at_;
-  held_at_.reset();
-  update();
-  if (dragged) dragged(from, event->position().toPoint());
-}
-
-void MarkDot::SetColor(QColor color) {
-  color_ = color;
-  update();
-}
-
-void MarkDot::paintEvent(QPaintEvent*) {
-  QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QColor(6, 14, 40));
-  painter.setBrush(color_);
-  painter.drawEllipse(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
-}
-
-void MarkDot::mousePressEvent(QMouseEvent* event) {
-  if (pressed) pressed(PressOf(*event));
+bool IsMenuKey(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Menu ||
+         (event.key() == Qt::Key_F10 && event.modifiers().testFlag(Qt::ShiftModifier));
 }
 
 MousePress PressOf(const QMouseEvent& event) {

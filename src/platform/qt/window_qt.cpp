@@ -9,6 +9,7 @@
 
 #include "platform/qt/display.h"
 #include "platform/qt/form_window.h"
+#include "platform/qt/key_act.h"
 #include "platform/qt/text_qt.h"
 
 namespace skyloft {
@@ -103,7 +104,7 @@ void PopUpMenu(Form& form, MenuItem& entries) {
   auto* menu = new QMenu(Display::Get().MadeWindowOf(form));
   menu->setAttribute(Qt::WA_DeleteOnClose);
   FillMenu(*menu, *entries.Owner(), entries);
-  menu->popup(QCursor::pos());
+  menu->popup(KeyAct::Place().value_or(QCursor::pos()));
 }
 
 }  // namespace skyloft

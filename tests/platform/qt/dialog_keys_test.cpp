@@ -5,7 +5,6 @@
 
 #include <QApplication>
 #include <QCheckBox>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -13,16 +12,10 @@
 #include "platform/qt/display.h"
 #include "platform/qt/form_window.h"
 #include "platform/qt/skin_style.h"
+#include "widget_testing.h"
 
 namespace skyloft {
 namespace {
-
-void Key(QWidget* widget, Qt::Key key) {
-  for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-    QKeyEvent event(type, key, Qt::NoModifier);
-    QApplication::sendEvent(widget, &event);
-  }
-}
 
 struct AskForm : Form {
   AskForm() : Form("AskForm", "Ask", Border::Dialog) {
@@ -151,23 +144,23 @@ TEST_F(DialogKeys, AScreenReaderHearsWhatAFieldIsFor) {
 TEST_F(DialogKeys, EnterPressesTheDefaultButtonAndEscTheOneThatCancels) {
   Show();
   Find("NameInput")->setFocus();
-  Key(Find("NameInput"), Qt::Key_Return);
+  Key(*Find("NameInput"), Qt::Key_Return);
   EXPECT_EQ(form_.advanced, 1);
-  Key(Find("Send"), Qt::Key_Enter);
+  Key(*Find("Send"), Qt::Key_Enter);
   EXPECT_EQ(form_.advanced, 2);
-  Key(Find("NameInput"), Qt::Key_Escape);
+  Key(*Find("NameInput"), Qt::Key_Escape);
   EXPECT_EQ(form_.cancelled, 1);
   form_.Next.Enabled = form_.Cancel.Enabled = false;
   Update();
-  Key(Find("NameInput"), Qt::Key_Return);
-  Key(Find("NameInput"), Qt::Key_Escape);
+  Key(*Find("NameInput"), Qt::Key_Return);
+  Key(*Find("NameInput"), Qt::Key_Escape);
   EXPECT_EQ(form_.advanced + form_.cancelled, 3);
 }
 
 TEST_F(DialogKeys, EnterOnAButtonThatHasTheFocusPressesThatOne) {
   Show();
   Find("Cancel")->setFocus();
-  Key(Find("Cancel"), Qt::Key_Return);
+  Key(*Find("Cancel"), Qt::Key_Return);
   EXPECT_EQ(form_.cancelled, 1);
   EXPECT_EQ(form_.advanced, 0);
 }
@@ -193,6 +186,42 @@ TEST_F(DialogKeys, APageWithoutAnythingToEnterLeavesTheFocusToTheDefaultButton) 
   }
   Show();
   EXPECT_EQ(window_.focusWidget(), Find("Next"));
+}
+
+TEST_F(DialogKeys, TheArrowsGoThroughTheTabsAndKeepTheFocusThere) {
+  struct TabForm : Form {
+    TabForm() : Form("TabForm", "Tabs", Border::Dialog) {
+      Width = Height = 300 * 15;
+      Tabs.Tabs = {"One", "Two", "Three"};
+      Tabs.Width = Page.Width = Input.Width = 200;
+      Tabs.Height = Page.Height = Input.Height = 30;
+      Page.Visible = false;
+      Tabs.Click = [this] {
+        chosen.push_back(Tabs.Selected());
+        Page.Visible = Tabs.Selected() == 2;
+      };
+    }
+    TabStrip Tabs{this, "Tabs"};
+    Frame Page{this, "Page"};
+    TextBox Input{this, "Input", &Page};
+    std::vector<int> chosen;
+  } form;
+  FormWindow window(form);
+  form.Visible = true;
+  const auto update = [&] {
+    window.ShowForm();
+    for (Control* control : form.Controls()) window.ShowControl(*control);
+    for (int i = 0; i < 5; ++i) QApplication::processEvents();
+  };
+  update();
+  auto* tabs = window.findChild<QWidget*>("Tabs");
+  tabs->setFocus();
+  for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Right, Qt::Key_Left}) {
+    Key(*tabs, key);
+    update();
+    EXPECT_EQ(window.focusWidget(), tabs);
+  }
+  EXPECT_EQ(form.chosen, (std::vector<int>{2, 3, 2})) << "each once";
 }
 
 TEST_F(DialogKeys, APageCoversTheOneUnderIt) {

@@ -5,159 +5,31 @@
 
 #include <optional>
 #include <utility>
-#include <vector>
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
+#include <QFontDatabase>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QTemporaryDir>
 
 #include "forms/forms.h"
 #include "forms/main_form.h"
+#include "platform/pictures.h"
 #include "platform/qt/display.h"
+#include "platform/qt/drive.h"
 #include "platform/qt/form_window.h"
+#include "platform/qt/skin_style.h"
+#include "widget_testing.h"
 
 namespace skyloft {
 namespace {
-
-QImage Painted(QWidget& widget) { return widget.grab().toImage().convertToFormat(QImage::Format_RGB32); }
-
-void Mouse(QWidget& widget, QEvent::Type type, QPoint at, Qt::MouseButton button = Qt::LeftButton) {
-  const bool is_move = type == QEvent::MouseMove;
-  QMouseEvent event(type, at, widget.mapToGlobal(at), is_move ? Qt::NoButton : button,
-                    type == QEvent::MouseButtonRelease ? Qt::NoButton : button, Qt::NoModifier);
-  QApplication::sendEvent(&widget, &event);
-}
-
-int CountOf(const QImage& image, QRgb color) {
-  int count = 0;
-  for (int y = 0; y < image.height(); ++y) {
-    for (int x = 0; x < image.width(); ++x) count += image.pixel(x, y) == color;
-  }
-  return count;
-}
 
 class Widgets : public ::testing::Test {
  protected:
   int argc = 0;
   QApplication application{argc, nullptr};
 };
-
-// A view of 100 by 80 pixels over a picture of squares of 10 by 10 pixels, each of a colour of its own.
-class ViewOverSquares : public Widgets {
- protected:
-  ViewOverSquares() {
-    for (int y = 0; y < squares_.height(); ++y) {
-      for (int x = 0; x < squares_.width(); ++x) squares_.setPixel(x, y, SquareAt(x, y));
-    }
-    view_.resize(100, 80);
-    view_.pressed = [this](const MousePress& press) { presses_.push_back(press); };
-    view_.dragged = [this](QPoint from, QPoint to) { drags_.emplace_back(from, to); };
-  }
-  static QRgb SquareAt(int x, int y) { return qRgb(40 + x / 10 * 10, 40 + y / 10 * 10, 99); }
-
-  QImage squares_{200, 200, QImage::Format_RGB32};
-  ZoomView view_{nullptr};
-  std::vector<MousePress> presses_;
-  std::vector<std::pair<QPoint, QPoint>> drags_;
-};
-
-TEST_F(ViewOverSquares, AtScaleEveryPixelIsThePicturesFromTheOriginOn) {
-  view_.SetView(squares_, 1, {30, 50});
-  const QImage shown = Painted(view_);
-  for (const QPoint at : {QPoint(0, 0), QPoint(99, 79), QPoint(9, 10), QPoint(10, 9)}) {
-    EXPECT_EQ(shown.pixel(at), SquareAt(at.x() + 30, at.y() + 50)) << at.x() << " " << at.y();
-  }
-}
-
-TEST_F(ViewOverSquares, BesideThePictureItIsBlack) {
-  view_.SetView(squares_, 1, {-20, 150});
-  const QImage shown = Painted(view_);
-  EXPECT_EQ(shown.pixel(19, 0), qRgb(0, 0, 0));
-  EXPECT_EQ(shown.pixel(20, 0), SquareAt(0, 150));
-  EXPECT_EQ(shown.pixel(20, 49), SquareAt(0, 199));
-  EXPECT_EQ(shown.pixel(20, 50), qRgb(0, 0, 0));
-}
-
-TEST_F(ViewOverSquares, ZoomEnlargesThePictureFromTheOriginOn) {
-  for (const double zoom : {1.1, 2.0, 4.0}) {
-    view_.SetView(squares_, zoom, {30, 50});
-    const QImage shown = Painted(view_);
-    for (const QPoint middle : {QPoint(5, 5), QPoint(15, 5), QPoint(5, 15)}) {
-      EXPECT_EQ(shown.pixel(static_cast<int>(middle.x() * zoom), static_cast<int>(middle.y() * zoom)),
-                SquareAt(30 + middle.x(), 50 + middle.y()))
-          << zoom;
-    }
-  }
-}
-
-TEST_F(ViewOverSquares, ATextLiesOnItsPixelOfThePictureAtEveryZoom) {
-  squares_.fill(Qt::black);
-  view_.SetOverlay({{"+", 50, 60}});
-  const auto lies_in = [&](const QRect& place) {
-    const QImage shown = Painted(view_);
-    return CountOf(shown, qRgb(0, 0, 0)) < 100 * 80 &&
-           CountOf(shown.copy(place), qRgb(0, 0, 0)) - place.width() * place.height() ==
-               CountOf(shown, qRgb(0, 0, 0)) - 100 * 80;
-  };
-  view_.SetView(squares_, 1, {30, 50});
-  EXPECT_TRUE(lies_in({20, 10, 20, 30}));
-  view_.SetView(squares_, 2, {50, 60});
-  EXPECT_TRUE(lies_in({0, 0, 40, 60}));
-  view_.SetOverlay({});
-  EXPECT_FALSE(lies_in({0, 0, 40, 60})) << "nothing is left of it";
-}
-
-TEST_F(ViewOverSquares, APressTellsItsPixelAndItsButton) {
-  const struct {
-    QEvent::Type type;
-    Qt::MouseButton button;
-    MouseButton told;
-  } cases[] = {{QEvent::MouseButtonPress, Qt::LeftButton, MouseButton::Left},
-               {QEvent::MouseButtonPress, Qt::RightButton, MouseButton::Right},
-               {QEvent::MouseButtonDblClick, Qt::LeftButton, MouseButton::Double}};
-  for (const auto& c : cases) {
-    presses_.clear();
-    Mouse(view_, c.type, {12, 34}, c.button);
-    Mouse(view_, QEvent::MouseButtonRelease, {15, 36}, c.button);
-    ASSERT_EQ(presses_.size(), 1u) << "a release tells nothing";
-    EXPECT_EQ(presses_[0].x, 12);
-    EXPECT_EQ(presses_[0].y, 34);
-    EXPECT_EQ(presses_[0].button, c.told);
-  }
-  EXPECT_TRUE(drags_.empty());
-}
-
-TEST_F(ViewOverSquares, TheRectangleToolGivesTheRectangleFromThePressToTheRelease) {
-  view_.SetView(squares_, 1, {0, 0});
-  view_.SetRectangleTool(true);
-  EXPECT_EQ(view_.cursor().shape(), Qt::CrossCursor);
-  const QRgb line = qRgb(255, 211, 92);
-  Mouse(view_, QEvent::MouseButtonPress, {60, 70});
-  Mouse(view_, QEvent::MouseMove, {20, 10});
-  const QImage spanned = Painted(view_);
-  EXPECT_GT(CountOf(spanned, line), 40) << "dashes";
-  EXPECT_EQ(CountOf(spanned.copy(21, 11, 39, 59), line), 0) << "around it, not in it";
-  Mouse(view_, QEvent::MouseButtonRelease, {25, 15}, Qt::RightButton);
-  EXPECT_TRUE(drags_.empty()) << "the left button is still down";
-  Mouse(view_, QEvent::MouseButtonRelease, {22, 11});
-  EXPECT_EQ(drags_, (std::vector<std::pair<QPoint, QPoint>>{{{60, 70}, {22, 11}}}));
-  EXPECT_EQ(CountOf(Painted(view_), line), 0);
-  Mouse(view_, QEvent::MouseButtonRelease, {30, 30});
-  EXPECT_EQ(drags_.size(), 1u) << "one press, one rectangle";
-}
-
-TEST_F(ViewOverSquares, WithoutTheToolOrByTheRightButtonNoRectangleIsSpanned) {
-  for (const auto& [tool, button] : {std::pair{false, Qt::LeftButton}, {true, Qt::RightButton}}) {
-    view_.SetRectangleTool(tool);
-    Mouse(view_, QEvent::MouseButtonPress, {10, 10}, button);
-    Mouse(view_, QEvent::MouseMove, {50, 50}, button);
-    Mouse(view_, QEvent::MouseButtonRelease, {50, 50}, button);
-    EXPECT_TRUE(drags_.empty()) << tool;
-  }
-  view_.SetRectangleTool(false);
-  EXPECT_EQ(view_.cursor().shape(), Qt::ArrowCursor);
-}
 
 // The widgets of the main window, brought up to their models.
 QImage Plain(QSize size, QRgb color) {
@@ -285,6 +157,51 @@ TEST_F(MainWindow, ThePositionBarIsBlueWhileStepsAreTakenAndGreenWhileItPlays) {
     EXPECT_EQ(Painted(bar).pixel(right), is_full ? qRgb(0, 255, 0) : ground) << max;
     EXPECT_EQ(Painted(bar).pixel(left), is_full ? qRgb(0, 255, 0) : ground) << max;
   }
+}
+
+// The rows of a label's picture that hold letters, as stretches.
+int LinesIn(const QImage& picture) {
+  int lines = 0;
+  bool inside = false;
+  for (int y = 0; y < picture.height(); ++y) {
+    const bool letters =
+        CountOf(picture.copy(0, y, picture.width(), 1), picture.pixel(0, 0)) < picture.width();
+    lines += letters && !inside;
+    inside = letters;
+  }
+  return lines;
+}
+
+TEST_F(Widgets, TheLinesOfALabelDoNotTouchInTheFontOfTheWindows) {
+  SetFont();
+  ClickLabel label(nullptr);
+  label.setWordWrap(true);
+  label.resize(120, 80);
+  label.setText("Agyp Agyp\nAgyp Agyp\nAgyp Agyp Agyp Agyp Agyp Agyp");
+  EXPECT_GE(LinesIn(Painted(label)), 4);
+}
+
+TEST_F(Widgets, TheFontOfTheWindowsIsTahomaWhereItIsInstalledAndElseTheNearest) {
+  SetFont();
+  const QStringList families = QFontDatabase::families();
+  QString nearest;
+  for (const char* family : {"DejaVu Sans", "DejaVu Sans Condensed", "Verdana", "Tahoma"}) {
+    if (families.contains(family)) nearest = family;
+  }
+  EXPECT_EQ(QApplication::font().family(), nearest);
+  EXPECT_EQ(QApplication::font().pixelSize(), 12);
+}
+
+TEST_F(MainWindow, APictureLargerThanItsPlaceShowsItsMiddle) {
+  const QTemporaryDir folder;
+  SetUpDrive(folder.path(), folder.path());
+  QImage picture(300, 300, QImage::Format_RGB32);
+  picture.fill(Qt::black);
+  picture.setPixel(150, 150, qRgb(255, 255, 255));
+  ASSERT_TRUE(picture.save(folder.filePath("middle.png")));
+  LoadPicture(MainForm.Thumbnail, "C:\\middle.png");
+  Display::Get().ShowDirty();
+  EXPECT_EQ(Painted(WidgetOf(MainForm.Thumbnail)).pixel(75, 62), qRgb(255, 255, 255));
 }
 
 TEST_F(MainWindow, AMarkIsADotOfItsColourThatTellsItsPress) {

@@ -113,11 +113,32 @@ TEST_F(WindowOnADesktop, AWindowInTheScreensCornerStaysThereWhateverTheDesktopWo
     CornerForm() { Left = Top = 0; }
   };
   auto& corner = *new CornerForm();  // its window outlives the test
-  corner.Visible = true;  // the focus, which a desktop may refuse, plays no part
+  corner.Visible = true;             // the focus, which a desktop may refuse, plays no part
   ASSERT_TRUE(Await([&] { return WindowOf(corner).isVisible(); }));
   Pass(300);
   EXPECT_EQ(WindowOf(corner).frameGeometry().topLeft(), QPoint(0, 0));
   corner.Visible = false;
+}
+
+// The screen has 1024 by 768 pixels.
+TEST_F(WindowOnADesktop, AWindowWhosePlaceNoScreenShowsComesBackAndItsModelFollows) {
+  const struct {
+    QPoint stored, shown;
+  } cases[] = {{{3000, 2000}, {724, 568}}, {{-700, 90}, {0, 90}}, {{800, 100}, {800, 100}}};
+  for (const auto& c : cases) {
+    struct LostForm : BareForm {};
+    auto& lost = *new LostForm();  // its window outlives the test
+    lost.Left = c.stored.x() * 15 + 7;
+    lost.Top = c.stored.y() * 15;
+    lost.Visible = true;
+    ASSERT_TRUE(Await([&] { return WindowOf(lost).isVisible(); }));
+    Pass(300);
+    EXPECT_EQ(WindowOf(lost).pos(), c.shown) << c.stored.x();
+    EXPECT_EQ(lost.Left.Get(), c.shown.x() * 15 + (c.stored == c.shown ? 7 : 0))
+        << "a kept place to the twip";
+    EXPECT_EQ(lost.Top.Get(), c.shown.y() * 15);
+    lost.Visible = false;
+  }
 }
 
 TEST_F(WindowOnADesktop, OutOfTheTaskbarItIsAUtility) {

@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QFontDatabase>
 #include <QFontMetrics>
+#include <QGuiApplication>
 #include <QHash>
 #include <QStringList>
 #include <algorithm>
@@ -21,7 +22,7 @@ struct StandIns {
 };
 
 const StandIns kStandIns[] = {
-    {"tahoma", {"Tahoma", "DejaVu Sans"}},
+    {"tahoma", {"Verdana", "DejaVu Sans Condensed", "DejaVu Sans"}},
     {"verdana", {"Verdana", "DejaVu Sans"}},
     {"arial", {"Arial", "Liberation Sans", "Tahoma", "DejaVu Sans"}},
     {"helvetica", {"Helvetica", "Liberation Sans", "Tahoma", "DejaVu Sans"}},
@@ -75,8 +76,9 @@ HtmlFont FindHtmlFont(const QString& families, int pixels, int weight, bool ital
   font.setWeight(static_cast<QFont::Weight>(std::clamp(weight, 100, 900)));
   font.setItalic(italic);
   font.setHintingPreference(QFont::PreferFullHinting);
-  if (size <= 13) font.setStyleStrategy(QFont::NoAntialias);
-  const bool thin = family == "Tahoma" && weight >= 600 && (size < 9 || size > 12);
+  const double dots = size * qGuiApp->devicePixelRatio();
+  if (dots <= 13) font.setStyleStrategy(QFont::NoAntialias);
+  const bool thin = family == "Tahoma" && weight >= 600 && (dots < 9 || dots > 12);
   const QFontMetrics metrics(font);
   const int missing = std::max(0, (size * 12 + 5) / 10 - metrics.ascent() - metrics.descent());
   return {font, thin ? std::max(1, size / 16) : 0, metrics.ascent() + missing, metrics.descent()};

@@ -14,9 +14,9 @@ struct HtmlFont {
 
 // The font for a list of families ("Tahoma, Verdana"), the first that is here or has a stand-in; DejaVu Sans
 // when none is. Tahoma is read from the folders where Debian's Wine fonts lie, which are not among the
-// desktop's fonts; its bold face is drawn bold only at 9 to 12 pixels, and its lines lie closer than pages
-// count on. Sizes are pixels, kept within 1 to 200; up to 13 pixels letters are not smoothed, as they read
-// best.
+// desktop's fonts; its bold face is drawn bold only at 9 to 12 dots of the screen, and its lines lie closer
+// than pages count on. Sizes are pixels, kept within 1 to 200; up to 13 dots letters are not smoothed, as
+// they read best.
 HtmlFont FindHtmlFont(const QString& families, int pixels, int weight, bool italic);
 
 }  // namespace skyloft

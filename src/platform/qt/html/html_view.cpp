@@ -12,6 +12,7 @@
 #include "base/text.h"
 #include "platform/qt/html/html_container.h"
 #include "platform/qt/html/html_prepass.h"
+#include "platform/qt/html/html_reading.h"
 #include "platform/qt/html/html_scroller.h"
 #include "platform/qt/html/master_style.h"
 
@@ -45,7 +46,7 @@ HtmlView::HtmlView(HtmlServices services, QWidget* parent)
                                            })),
       container_(std::make_unique<HtmlContainer>(loader_)) {
   setMouseTracking(true);
-  setFocusPolicy(Qt::ClickFocus);
+  setFocusPolicy(Qt::StrongFocus);
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
@@ -56,7 +57,9 @@ void HtmlView::SetDocument(const std::string& html) {
   loader_->BeginDocument();
   rebuild_ = false;
   scroll_ = 0;
+  link_ = -1;
   Build();
+  setAccessibleDescription(document_ ? WordsOf(*document_) : QString());
   ShowScroller();
   PlaySound();
 }
@@ -168,6 +171,12 @@ void HtmlView::paintEvent(QPaintEvent*) {
     painter.fillRect(width() - kBarWidth, 0, kBarWidth, height(), QColor(0x0d, 0x1b, 0x36));
     painter.fillRect(handle.adjusted(1, 1, -1, -1), QColor(0x5b, 0x9b, 0xff));
   }
+  const auto link = ReachedLink();
+  if (!link) return;
+  for (const QPen& pen : {QPen(Qt::black), QPen(QColor(0xff, 0xd3, 0x5c), 1, Qt::DashLine)}) {
+    painter.setPen(pen);
+    painter.drawRect(link->place.translated(0, -scroll_).adjusted(-2, -1, 1, 0));
+  }
 }
 
 // Where a page ends that begins at `top`: below the last row that has room, all in pixels of the document.
@@ -204,6 +213,41 @@ void HtmlView::resizeEvent(QResizeEvent*) {
   if (size() != laid_out_) LayOut();
 }
 
+void HtmlView::focusOutEvent(QFocusEvent* event) {
+  if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason)
+    ReachLink(-1);
+}
+
+bool HtmlView::focusNextPrevChild(bool next) {
+  const int link = link_ + (next ? 1 : -1);
+  const int count = document_ ? static_cast<int>(LinksOf(*document_).size()) : 0;
+  if (link < 0 || link >= count) return QWidget::focusNextPrevChild(next);
+  ReachLink(link);
+  return true;
+}
+
+void HtmlView::ReachLink(int link) {
+  link_ = link;
+  update();
+  const auto reached = ReachedLink();
+  if (!reached) return;
+  const QRect& place = reached->place;
+  if (place.top() < scroll_ || place.bottom() >= scroll_ + height()) ScrollTo(place.top());
+}
+
+// A page that comes anew with its pictures may have fewer.
+std::optional<HtmlLink> HtmlView::ReachedLink() const {
+  if (link_ < 0 || !document_) return std::nullopt;
+  const std::vector<HtmlLink> links = LinksOf(*document_);
+  if (link_ >= static_cast<int>(links.size())) return std::nullopt;
+  return links[static_cast<size_t>(link_)];
+}
+
+void HtmlView::FollowLink(const QString& address) {
+  if (address.isEmpty() || !services_.open_link) return;
+  QTimer::singleShot(0, this, [this, address] { services_.open_link(address); });
+}
+
 void HtmlView::wheelEvent(QWheelEvent* event) { ScrollTo(scroll_ - event->angleDelta().y() * kLine / 120); }
 
 void HtmlView::keyPressEvent(QKeyEvent* event) {
@@ -214,8 +258,16 @@ void HtmlView::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_PageDown: return ScrollTo(scroll_ + height());
     case Qt::Key_Home: return ScrollTo(0);
     case Qt::Key_End: return ScrollTo(MaxScroll());
-    default: QWidget::keyPressEvent(event);
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      if (const auto link = ReachedLink()) return FollowLink(link->address);
+      break;
+    case Qt::Key_Menu:
+      if (secondary_clicked) return secondary_clicked();
+      break;
+    default: break;
   }
+  QWidget::keyPressEvent(event);
 }
 
 void HtmlView::mousePressEvent(QMouseEvent* event) {
@@ -248,10 +300,7 @@ void HtmlView::mouseReleaseEvent(QMouseEvent* event) {
   const QPoint at = event->position().toPoint();
   litehtml::position::vector redraw;
   if (document_) document_->on_lbutton_up(at.x(), at.y() + scroll_, at.x(), at.y(), redraw);
-  const QString url = container_->TakeClickedLink();
-  if (!url.isEmpty() && services_.open_link) {
-    QTimer::singleShot(0, this, [this, url] { services_.open_link(url); });
-  }
+  FollowLink(container_->TakeClickedLink());
   const auto handler = clicked;  // a copy: it may end this view
   if (handler) handler();
 }

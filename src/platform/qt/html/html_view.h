@@ -6,8 +6,10 @@
 #include <QWidget>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
+#include "platform/qt/html/html_reading.h"
 #include "platform/qt/html/html_services.h"
 
 class QPagedPaintDevice;
@@ -21,6 +23,8 @@ namespace skyloft {
 class HtmlContainer;
 class HtmlLoader;
 
+// With the focus it is scrolled by the arrows and the keys for pages; Tab goes through its links, Enter
+// follows the one reached. A screen reader finds the page's words in the view's description.
 class HtmlView : public QWidget {
  public:
   explicit HtmlView(HtmlServices services, QWidget* parent = nullptr);
@@ -51,6 +55,8 @@ class HtmlView : public QWidget {
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void leaveEvent(QEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
 
  private:
   void Build();
@@ -62,6 +68,9 @@ class HtmlView : public QWidget {
   void Post(bool rebuild);
   void RunPosted();
   void ScrollTo(int y);
+  void ReachLink(int link);
+  std::optional<HtmlLink> ReachedLink() const;
+  void FollowLink(const QString& address);
   int PageEnd(int top, int height) const;
   int MaxScroll() const;
   QRect BarRect() const;
@@ -77,6 +86,7 @@ class HtmlView : public QWidget {
   bool scrollable_ = true;  // body { overflow: hidden } has no scroll bar
   bool posted_ = false, rebuild_ = false;
   int scroll_ = 0;  // pixels of the document above the view
+  int link_ = -1;   // the one that Tab has reached, by its place in the page; -1 for none
   int drag_ = -1;   // where in the bar's handle the mouse holds it; -1 for not
 };
 

@@ -4,6 +4,7 @@
 
 #include <QBuffer>
 #include <QFile>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWheelEvent>
 #include <memory>
@@ -37,6 +38,11 @@ void Click(HtmlView& view, const QPoint& at) {
 void Roll(HtmlView& view, int notches) {
   QWheelEvent event({5, 5}, {5, 5}, {}, {0, 120 * notches}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
                     false);
+  QApplication::sendEvent(&view, &event);
+}
+
+void Press(QWidget& view, Qt::Key key) {
+  QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
   QApplication::sendEvent(&view, &event);
 }
 
@@ -96,6 +102,36 @@ TEST_F(HtmlViewTest, AClickWithTheRightButtonIsToldApart) {
   EXPECT_EQ(left, 0);
   RunEvents();
   EXPECT_TRUE(opened_.empty());
+}
+
+TEST_F(HtmlViewTest, TabGoesThroughTheLinksAndEnterFollowsTheOneReached) {
+  auto view = MakeView(
+      "<html><body><a href='http://one.example/'>one</a> <br><br><br><br><br><br><br><br>"
+      "<a href='mailto:two@home.example'>two</a></body></html>");
+  Press(*view, Qt::Key_Return);
+  RunEvents();
+  EXPECT_TRUE(opened_.empty()) << "none is reached";
+  const QImage before = view->grab().toImage();
+  Press(*view, Qt::Key_Tab);
+  EXPECT_NE(view->grab().toImage(), before) << "the link is framed";
+  Press(*view, Qt::Key_Return);
+  Press(*view, Qt::Key_Tab);
+  EXPECT_NE(view->grab().toImage().copy(0, 0, 60, 20), before.copy(0, 0, 60, 20)) << "scrolled to the link";
+  Press(*view, Qt::Key_Enter);
+  Press(*view, Qt::Key_Backtab);
+  Press(*view, Qt::Key_Return);
+  RunEvents();
+  EXPECT_EQ(opened_,
+            (std::vector<QString>{"http://one.example/", "mailto:two@home.example", "http://one.example/"}));
+}
+
+TEST_F(HtmlViewTest, AScreenReaderFindsTheWordsOfThePage) {
+  auto view = MakeView(
+      "<html><head><title>Not this</title></head><body><table><tr><td>Temp</td><td><b>4</b>9<br>F"
+      "</td></tr></table><p>Caf\xe9 &amp;\n bar</p></body></html>");
+  EXPECT_EQ(view->accessibleDescription(), QString::fromUtf8("Temp 49 F Caf\u00e9 & bar"));
+  view->SetDocument("<html></html>");
+  EXPECT_EQ(view->accessibleDescription(), "");
 }
 
 TEST_F(HtmlViewTest, LinkUnderTheMouseKeepsItsLookAndChangesTheCursor) {
