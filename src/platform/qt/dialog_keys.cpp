@@ -25,7 +25,6 @@ QString CaptionOf(const Control* control) {
   if (const auto* button = dynamic_cast<const Button*>(control)) return ToQt(button->Caption);
   if (const auto* box = dynamic_cast<const CheckBox*>(control)) return ToQt(box->Caption);
   if (const auto* label = dynamic_cast<const Label*>(control)) return ToQt(label->Caption);
-  if (const auto* frame = dynamic_cast<const Frame*>(control)) return ToQt(frame->Caption);
   return {};
 }
 
@@ -133,6 +132,9 @@ const Control* FieldOf(const Label& label) {
 QString SpokenName(const Control& control) {
   const std::string_view type = control.Type();
   if (type == "Label" || !CaptionOf(&control).isEmpty()) return {};
+  if (const auto* frame = dynamic_cast<const Frame*>(&control)) {
+    return frame->Caption.Get().empty() ? NameOf(control) : QString();
+  }
   if (const QString purpose = ToQt(control.ToolTip); !purpose.isEmpty()) return purpose;
   if (!IsField(&control)) return NameOf(control);
   QStringList parts;

@@ -40,6 +40,7 @@ struct AskForm : Form {
     Cancel.Click = [this] { ++cancelled; };
     Next.Click = [this] { ++advanced; };
     Pages[1].Visible = false;
+    Pages[0].Caption = "Send";  // a frame needs no letter
   }
   ControlArray<Frame, 2> Pages{this, "Pages"};
   Label NameLabel{this, "NameLabel", &Pages[0]};
