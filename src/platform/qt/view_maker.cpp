@@ -8,6 +8,7 @@
 #include <QRadioButton>
 #include <QTabBar>
 
+#include "platform/qt/control_look.h"
 #include "platform/qt/dialog_keys.h"
 #include "platform/qt/focus_ring.h"
 #include "platform/qt/form_window.h"
@@ -19,36 +20,6 @@
 #include "platform/qt/zoom_view.h"
 
 namespace skyloft {
-namespace {
-
-// Numbers of the program hold blue, green, red from the highest byte down.
-QColor ColorOf(int number) { return QColor(number & 255, (number >> 8) & 255, (number >> 16) & 255); }
-
-constexpr int kOneLine = 30;  // pixels; a higher label may have several
-
-Qt::Alignment AlignmentOf(const Label& label) {
-  const std::string& name = label.Name();
-  if (name == "TimeValue") return Qt::AlignRight | Qt::AlignVCenter;
-  if (name == "LocationLabel" || name == "SevereWeatherLabel" || name == "PersonalLabel")
-    return Qt::AlignCenter;
-  return Qt::AlignLeft | (label.Height > kOneLine ? Qt::AlignTop : Qt::AlignVCenter);
-}
-
-// The purpose of a button, and its key.
-QString TipOf(const Control& control) {
-  const QString tip = ToQt(control.ToolTip);
-  const auto* button = dynamic_cast<const ImageButton*>(&control);
-  return button && !button->Key.empty() ? tip + " (" + ToQt(button->Key) + ")" : tip;
-}
-
-// A caption as a label of one line shows it: what does not fit ends in dots.
-QString Fitting(QLabel& label, const QString& caption, int width) {
-  if (label.wordWrap()) return caption;
-  label.ensurePolished();  // the skin's font
-  return label.fontMetrics().elidedText(caption, Qt::ElideRight, width);
-}
-
-}  // namespace
 
 // One procedure a kind of control: makes the widget, ties its signals to the model's acts, and tells how to
 // bring it up to the model.
@@ -59,7 +30,7 @@ class ViewMaker : public ControlVisitor {
   void Visit(Label& model) override {
     auto* label = new ClickLabel(ParentOf(model));
     label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(model.Height > kOneLine);
+    label->setWordWrap(HasSeveralLines(model));
     label->setAlignment(AlignmentOf(model));
     MakeClickable(model, *label);
     const Control* field = FieldOf(model);

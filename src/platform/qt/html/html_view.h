@@ -59,6 +59,7 @@ class HtmlView : public QWidget {
   bool focusNextPrevChild(bool next) override;
 
  private:
+  static constexpr int kLine = 40;  // pixels that a key or a notch of the wheel scrolls
   void Build();
   void LayOut();
   void Render(int width);
