@@ -29,13 +29,6 @@ QString TipOf(const Control& control) {
   return button && !button->Key.empty() ? tip + " (" + ToQt(button->Key) + ")" : tip;
 }
 
-// A label of Qt's takes another part of it where a pixel is not one dot.
-QImage MiddleOf(const QImage& picture, const QSize& place) {
-  const QSize seen = picture.size().boundedTo(place);
-  const QSize beside = (picture.size() - seen) / 2;
-  return picture.copy(QRect(QPoint(beside.width(), beside.height()), seen));
-}
-
 QString Fitting(QLabel& label, const QString& caption, int width) {
   if (label.wordWrap()) return caption;
   label.ensurePolished();  // the skin's font

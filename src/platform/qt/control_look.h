@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QColor>
-#include <QImage>
 #include <QString>
 
 #include "platform/controls.h"
@@ -19,9 +18,6 @@ Qt::Alignment AlignmentOf(const Label& label);
 
 // The purpose of a button, and its key.
 QString TipOf(const Control& control);
-
-// What of a picture is seen in a smaller place: its middle.
-QImage MiddleOf(const QImage& picture, const QSize& place);
 
 // A caption as a label of one line shows it: what does not fit into so many pixels ends in dots.
 QString Fitting(QLabel& label, const QString& caption, int width);

@@ -23,7 +23,7 @@ namespace {
 
 constexpr int kLargestSide = 8192;
 constexpr qint64 kLargestArea = qint64{32} * 1024 * 1024;
-constexpr qsizetype kKeptBytes = qsizetype{24} * 1024 * 1024;
+constexpr qsizetype kKeptBytes = qsizetype{8} * 1024 * 1024;
 constexpr int kFastPng = 80;  // quality: little compression in little time
 constexpr qint64 kMostFrames = 8;
 constexpr qint64 kAnimatedArea = qint64{1024} * 1024;  // pixels of all frames; what is larger stands still
