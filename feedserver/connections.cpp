@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <array>
 #include <map>
-#include <optional>
 #include <vector>
 
 #include "feedserver/sockets.h"
@@ -21,11 +20,15 @@ using Moment = SteadyClock::time_point;
 
 constexpr auto kDripPause = std::chrono::milliseconds(100);
 constexpr auto kClosePatience = std::chrono::seconds(1);  // for a client to close its side
+constexpr std::size_t kOtherFiles = 16;                   // open beside the connections, at most
+constexpr std::size_t kMostWaiting =
+    40'000;  // requests; all but kMostConnections are of clients that have left
 constexpr std::string_view kTooLong =
     "HTTP/1.1 431 Request Header Fields Too Large\r\nConnection: close\r\nContent-Length: 0\r\n\r\n";
 
 enum class Stage {
   Reading,    // its request
+  Asking,     // its request has come whole
   Answering,  // by a worker
   Sending,    // the reply
   Dripping,   // the reply, byte by byte
@@ -45,7 +48,7 @@ class Connection {
 
   int Socket() const { return socket_.Number(); }
   Stage At() const { return stage_; }
-  // Bytes of the reply that it has not taken yet.
+  // Bytes of the reply, which is kept until the last of them is sent.
   std::size_t Held() const { return reply_.size(); }
   // When it is served even if the socket is silent.
   Moment Due() const { return due_; }
@@ -68,6 +71,7 @@ class Connection {
   bool Reply(Outgoing reply, Moment now) {
     if (reply.pace == Pace::Never) return Enter(Stage::Holding, Moment::max());
     if (reply.bytes.empty()) return false;
+    head_.reset();
     reply_ = std::move(reply.bytes);
     if (reply.pace == Pace::Drip) {
       stage_ = Stage::Dripping;
@@ -77,10 +81,11 @@ class Connection {
     return SendSome(reply_.size(), now);
   }
 
-  // The request, when it has just come whole.
-  std::optional<std::string> TakeHead() {
-    if (stage_ != Stage::Answering || head_.empty()) return {};
-    return std::exchange(head_, {});
+  // The request that has come whole, to be answered. It is gone when the connection is, so that nobody works
+  // for a client that has left.
+  std::weak_ptr<const std::string> Ask() {
+    stage_ = Stage::Answering;
+    return head_;
   }
 
  private:
@@ -96,13 +101,12 @@ class Connection {
     if (count < 0) return errno == EAGAIN || errno == EINTR;
     if (count == 0) return false;
     if (stage_ != Stage::Reading) return true;
-    const std::size_t known = head_.size();
-    head_.append(buffer.data(), static_cast<std::size_t>(count));
-    if (IsWhole(std::string_view(head_).substr(0, kLongestHead), known)) {
-      return Enter(Stage::Answering, Moment::max());
+    const std::size_t known = head_->size();
+    head_->append(buffer.data(), static_cast<std::size_t>(count));
+    if (IsWhole(std::string_view(*head_).substr(0, kLongestHead), known)) {
+      return Enter(Stage::Asking, Moment::max());
     }
-    if (head_.size() < kLongestHead) return true;
-    head_ = {};
+    if (head_->size() < kLongestHead) return true;
     return Reply({std::string(kTooLong)}, now);
   }
 
@@ -121,7 +125,8 @@ class Connection {
   Descriptor socket_;
   Stage stage_ = Stage::Reading;
   Moment due_;
-  std::string head_, reply_;
+  std::shared_ptr<std::string> head_ = std::make_shared<std::string>();
+  std::string reply_;
   std::size_t sent_ = 0;
 };
 
@@ -130,7 +135,7 @@ class Connection {
 class Connections::Loop {
  public:
   Loop(const std::string& address, int port, int threads, Answer answer)
-      : listener_(Listen(address, port)), answer_(std::move(answer)), workers_(threads, kMostConnections) {}
+      : listener_(Listen(address, port)), answer_(std::move(answer)), workers_(threads, kMostWaiting) {}
 
   int Port() const { return PortOf(listener_); }
 
@@ -174,17 +179,17 @@ class Connections::Loop {
       auto& [id, connection] = *at;
       // A reply may have ended a connection since; its entry is passed over.
       if (connection.Socket() != polled_[place].fd) continue;
-      const bool goes_on = connection.Serve(polled_[place].revents, now);
-      if (goes_on) HandOver(id, connection);
+      const bool goes_on = connection.Serve(polled_[place].revents, now) &&
+                           (connection.At() != Stage::Asking || HandOver(id, connection));
       at = goes_on ? std::next(at) : connections_.erase(at);
     }
   }
 
-  void HandOver(Id id, Connection& connection) {
-    auto head = connection.TakeHead();
-    if (!head) return;
-    workers_.Do([this, id, text = std::move(*head)] {
-      Outgoing reply = answer_(text);
+  bool HandOver(Id id, Connection& connection) {
+    return workers_.Do([this, id, asked = connection.Ask()] {
+      const auto head = asked.lock();
+      if (!head) return;
+      Outgoing reply = answer_(*head);
       {
         const std::lock_guard lock(mutex_);
         answered_.push_back({id, std::move(reply)});
@@ -204,15 +209,14 @@ class Connections::Loop {
       answered.swap(answered_);
     }
     for (Answered& one : answered) {
-      MakeRoomFor(one.reply.bytes.size());
       const auto found = connections_.find(one.id);
-      if (found != connections_.end() && !found->second.Reply(std::move(one.reply), now)) {
-        connections_.erase(found);
-      }
+      if (found == connections_.end()) continue;
+      MakeRoomFor(one.reply.bytes.size());
+      if (!found->second.Reply(std::move(one.reply), now)) connections_.erase(found);
     }
   }
 
-  // The replies that have been taken longest go first.
+  // The oldest connections that hold a reply go first; one that has none yet stays.
   void MakeRoomFor(std::size_t bytes) {
     std::size_t held = bytes;
     for (const auto& [id, connection] : connections_) held += connection.Held();
@@ -231,18 +235,20 @@ class Connections::Loop {
     }
     return connections_.end();
   }
-  bool CanAccept() { return connections_.size() < kMostConnections || Dispensable() != connections_.end(); }
+  bool CanAccept() { return connections_.size() < most_connections_ || Dispensable() != connections_.end(); }
 
   void AcceptAll(Moment now) {
     if (polled_[0].revents == 0) return;
     while (CanAccept()) {
       Descriptor socket = Accept(listener_);
       if (!socket.IsOpen()) return;
-      if (connections_.size() >= kMostConnections) connections_.erase(Dispensable());
+      if (connections_.size() >= most_connections_) connections_.erase(Dispensable());
       connections_.emplace(next_id_++, Connection(std::move(socket), now));
     }
   }
 
+  const std::size_t most_connections_ =
+      std::clamp(DescriptorLimit(), kOtherFiles + 1, kMostConnections + kOtherFiles) - kOtherFiles;
   Descriptor listener_;
   Pipe wake_;
   Answer answer_;

@@ -4,6 +4,7 @@
 #include <netdb.h>
 #include <netinet/in.h>
 #include <netinet/tcp.h>
+#include <sys/resource.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -67,6 +68,12 @@ Descriptor Accept(const Descriptor& listener) {
   const int on = 1;
   setsockopt(connection.Number(), IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
   return connection;
+}
+
+std::size_t DescriptorLimit() {
+  rlimit limit{};
+  if (getrlimit(RLIMIT_NOFILE, &limit) != 0) throw RuntimeError("no limit of open files");
+  return static_cast<std::size_t>(limit.rlim_cur);
 }
 
 Pipe::Pipe() {

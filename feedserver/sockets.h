@@ -1,6 +1,7 @@
 // Sockets and pipes of the operating system, owned.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <utility>
 
@@ -29,6 +30,9 @@ Descriptor Listen(const std::string& address, int port);
 int PortOf(const Descriptor& listener);
 // The next connection, never blocking; not open when none waits.
 Descriptor Accept(const Descriptor& listener);
+
+// How many files, sockets and pipes the process may have open at once.
+std::size_t DescriptorLimit();
 
 // Two ends of a pipe that never blocks.
 struct Pipe {

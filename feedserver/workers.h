@@ -15,20 +15,22 @@ class Workers {
  public:
   using Job = std::function<void()>;
 
-  // The jobs must not raise. One is passed over when `most_waiting` others wait already.
+  // The jobs must not raise.
   explicit Workers(int threads, std::size_t most_waiting) : most_waiting_(most_waiting) {
     for (int i = 0; i < threads; ++i) {
       threads_.emplace_back([this](const std::stop_token& stop) { Work(stop); });
     }
   }
 
-  void Do(Job job) {
+  // Whether the job will be done; it is passed over when `most_waiting` others wait already.
+  bool Do(Job job) {
     {
       const std::lock_guard lock(mutex_);
-      if (jobs_.size() >= most_waiting_) return;
+      if (jobs_.size() >= most_waiting_) return false;
       jobs_.push_back(std::move(job));
     }
     has_job_.notify_one();
+    return true;
   }
 
  private:

@@ -1,9 +1,13 @@
 // Clients that mean ill: whatever they do, others are answered and the server stays as small as it was.
 #include <gtest/gtest.h>
 
+#include <sys/resource.h>
+
 #include <memory>
+#include <optional>
 #include <random>
 
+#include "feedserver/connections.h"
 #include "running_server.h"
 
 namespace skyloft::feed {
@@ -126,6 +130,44 @@ TEST(HostileClient, ClientsThatTakeNothingKeepNobodyWaiting) {
   for (int i = 0; i < 10; ++i) EXPECT_TRUE(Get(server.Port(), kTarget).starts_with("HTTP/1.1 200"));
   EXPECT_LT(server.Resident(), usual + (300 << 10)) << "of 480 MB that they asked for";
   std::remove(file.c_str());
+}
+
+TEST(HostileClient, ClientsThatLeaveBeforeTheirReplyKeepNobodyWaiting) {
+  const RunningServer server({"--port", "0", "--threads", "1"});
+  for (int i = 0; i < 1500; ++i) {
+    const std::string number = std::to_string(101 + i % 60);
+    const Client client(server.Port(), "/sfctemp.101.12z.0" + number.substr(1) + ".gif");
+    usleep(300);  // until the request is read
+    client.Abort();
+  }
+  for (int i = 0; i < 5; ++i) {
+    Client client(server.Port(), kTarget);
+    EXPECT_TRUE(client.Receive(std::chrono::seconds(5)).starts_with("HTTP/1.1 200"));
+  }
+}
+
+// The limit of open files that a process has and hands on, for as long as it lives.
+class OpenFiles {
+ public:
+  explicit OpenFiles(rlim_t most) {
+    getrlimit(RLIMIT_NOFILE, &before_);
+    const rlimit limit{most, before_.rlim_max};
+    setrlimit(RLIMIT_NOFILE, &limit);
+  }
+  ~OpenFiles() { setrlimit(RLIMIT_NOFILE, &before_); }
+
+ private:
+  rlimit before_{};
+};
+
+TEST(HostileClient, SilentOnesMakeRoomWhereFewFilesMayBeOpen) {
+  std::optional<OpenFiles> few(64);
+  const RunningServer server({"--port", "0"});
+  few.reset();
+  const Clients silent = Connect(server, 200);
+  const auto begin = std::chrono::steady_clock::now();
+  EXPECT_TRUE(Get(server.Port(), kTarget).starts_with("HTTP/1.1 200"));
+  EXPECT_LT(std::chrono::steady_clock::now() - begin, kHeadPatience) << "before the first of them is left";
 }
 
 TEST(HostileClient, EndlessLinesAreCutShort) {

@@ -44,10 +44,11 @@ TEST(Workers, PassOverWhatIsTooManyToWait) {
   });
   begun.acquire();
   for (int job = 0; job < 5; ++job) {
-    one.Do([&, job] {
+    const bool is_taken = one.Do([&, job] {
       done.insert(job);
       if (job == 1) last.release();
     });
+    EXPECT_EQ(is_taken, job < 2) << job;
   }
   go_on.release();
   last.acquire();
