@@ -6,7 +6,7 @@ std::string PictureStore::Find(const PictureKey& key, const std::function<std::s
   const std::shared_ptr<Picture> picture = Take(key);
   std::call_once(picture->drawn, [&] {
     picture->bytes = draw();
-    Count(key, picture->bytes.size());
+    Count(key, *picture);
   });
   return picture->bytes;
 }
@@ -24,11 +24,12 @@ std::shared_ptr<PictureStore::Picture> PictureStore::Take(const PictureKey& key)
   return entries_.front().picture;
 }
 
-void PictureStore::Count(const PictureKey& key, std::size_t size) {
+void PictureStore::Count(const PictureKey& key, const Picture& picture) {
   const std::lock_guard lock(mutex_);
   const auto found = by_key_.find(key);
-  if (found == by_key_.end()) return;  // forgotten while it was drawn
-  bytes_ += found->second->size = size;
+  // Forgotten while it was drawn; perhaps somebody draws it again.
+  if (found == by_key_.end() || found->second->picture.get() != &picture) return;
+  bytes_ += found->second->size = picture.bytes.size();
   while (bytes_ > most_bytes_) {
     bytes_ -= entries_.back().size;
     by_key_.erase(entries_.back().key);

@@ -42,7 +42,7 @@ class PictureStore {
     std::size_t size = 0;  // bytes, 0 until it is drawn
   };
   std::shared_ptr<Picture> Take(const PictureKey& key);
-  void Count(const PictureKey& key, std::size_t size);
+  void Count(const PictureKey& key, const Picture& picture);
 
   std::size_t most_bytes_, bytes_ = 0;
   std::mutex mutex_;

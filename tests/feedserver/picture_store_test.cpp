@@ -77,6 +77,22 @@ TEST(PictureStore, WhoAsksDuringTheDrawingWaitsForItsEnd) {
   EXPECT_EQ(second, "drawn");
 }
 
+// Every second one is forgotten while it is drawn, drawn again and counted once.
+TEST(PictureStore, PictureForgottenWhileItIsDrawnIsNotCountedAsTheNextOfItsName) {
+  PictureStore store(350);
+  Painter painter{store};
+  for (int i = 0; i < 10; ++i) {
+    store.Find({"/a" + std::to_string(i), kNow, 1}, [&] {
+      for (const char* path : {"/b", "/c", "/d", "/e"}) painter.Ask(path + std::to_string(i));
+      return painter.Ask("/a" + std::to_string(i));
+    });
+  }
+  for (const char* path : {"/x", "/y", "/z"}) painter.Ask(path);
+  const int drawn = painter.drawn;
+  for (const char* path : {"/x", "/y", "/z"}) painter.Ask(path);
+  EXPECT_EQ(painter.drawn, drawn) << "three have room as before";
+}
+
 TEST(PictureStore, DrawingThatFailedIsTriedAgain) {
   PictureStore store;
   Painter painter{store};
