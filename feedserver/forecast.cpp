@@ -3,12 +3,14 @@
 #include <array>
 #include <vector>
 
+#include "base/guard.h"
 #include "base/values.h"
 #include "feedserver/phrases.h"
 #include "feedserver/places.h"
 #include "feedserver/products.h"
 #include "feedserver/replies.h"
 #include "feedserver/rows.h"
+#include "feedserver/steps.h"
 #include "feedserver/sun.h"
 #include "feedserver/xml.h"
 
@@ -20,7 +22,6 @@ constexpr std::int64_t kPeriodHours = 12, kHourlyPeriods = 6;  // the last of th
 constexpr std::int64_t kMinute = 60, kHour = 60 * kMinute;     // seconds
 constexpr std::int64_t kObservationSeconds = 20 * kMinute;
 
-Date FloorTo(Date date, std::int64_t seconds) { return {date.seconds - date.seconds % seconds}; }
 Date AddHours(Date date, std::int64_t hours) { return DateAdd(DateUnit::Hours, hours, date); }
 
 constexpr auto kCurrentTags = std::to_array<std::string_view>(
@@ -93,13 +94,15 @@ std::string HourlyXml(const std::vector<Spot>& spots, Date now, std::uint64_t se
   return std::move(xml).Finish();
 }
 
-// One stop of a trip, at an hour of the clock there. An hour that is no date has no row.
+// One stop of a trip, at an hour of the clock there. An hour that is no date, there or in GMT, has no row.
 std::string SingleHourXml(const std::vector<Spot>& spots, std::string_view hour_text, std::uint64_t seed) {
   XmlDocument xml("hour");
   Date hour;
   if (!TryReadDate(hour_text, hour)) return std::move(xml).Finish();
   for (const Spot& spot : spots) {
-    const Moment moment = ForecastAt(spot, GmtOf(spot.place, hour), seed);
+    Date gmt;
+    if (!Guarded([&] { gmt = GmtOf(spot.place, hour); })) continue;
+    const Moment moment = ForecastAt(spot, gmt, seed);
     AddRow(xml, moment, kHourlyTags);
     AddRow(xml, moment, kStopTags);
   }

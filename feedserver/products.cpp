@@ -6,6 +6,7 @@
 #include <span>
 
 #include "base/guard.h"
+#include "feedserver/steps.h"
 
 namespace skyloft::feed {
 namespace {
@@ -121,10 +122,7 @@ Date RunAt(std::string_view hour, Date now) {
 
 bool IsRunHour(std::string_view text) { return std::ranges::find(kRunHours, text) != kRunHours.end(); }
 
-Date ModelRun(Date now) {
-  const std::int64_t done = now.seconds - kRunDelay;
-  return {done - done % kRunSeconds};
-}
+Date ModelRun(Date now) { return FloorTo({now.seconds - kRunDelay}, kRunSeconds); }
 
 std::string_view ExtendedRun(std::string_view run_hour) {
   return run_hour == "00" || run_hour == "18" ? "12" : "00";
@@ -158,7 +156,7 @@ std::optional<MapRequest> ReadMapPath(std::string_view path, Date now) {
   const Layer& layer = LayerOf(*map->layer);
   MapRequest request{&layer, sector, std::string(map->name), now, layer.hours};
   if (IsStatic(*map)) {
-    request.valid.seconds -= request.valid.seconds % 300;
+    request.valid = FloorTo(now, 300);
     if (layer.hours > 0) request.valid = DateAdd(DateUnit::Hours, layer.hours, request.valid);  // an outlook
     return parts.size() == 3 ? std::optional(request) : std::nullopt;
   }

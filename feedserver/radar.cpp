@@ -14,6 +14,7 @@
 #include "feedserver/room.h"
 #include "feedserver/samples.h"
 #include "feedserver/scale.h"
+#include "feedserver/steps.h"
 
 namespace skyloft::feed {
 namespace {
@@ -238,7 +239,7 @@ std::string RadarPath(const RadarRequest& request) {
       .append(kFile);
 }
 
-Date RadarTime(Date now) { return {now.seconds - now.seconds % 300}; }
+Date RadarTime(Date now) { return FloorTo(now, 300); }
 
 Pixel RadarPixel(const RadarSite& site, Point point) {
   return {kSitePixel.x + kPerLongitude * (point.longitude - site.point.longitude),

@@ -10,13 +10,14 @@
 #include <string>
 
 #include "base/values.h"
+#include "feedserver/steps.h"
 #include "feedserver/weather.h"
 
 namespace skyloft::feed {
 namespace {
 
 constexpr std::int64_t kStep = 15 * 60;          // seconds; weather is looked at that often
-constexpr std::int64_t kLongest = 24 * 3600;     // of one stretch of weather
+constexpr std::int64_t kLongest = 30 * 86400;    // of one stretch of weather; none was seen to be as long
 constexpr int kWatchHours = 4, kFloodHours = 6;  // how far ahead a watch looks
 
 bool IsTornado(const Weather& weather) { return weather.thunder > 0.9 && weather.wind_speed > 18; }
@@ -87,7 +88,7 @@ Sky* FindUnder(const Kind& kind, Skies& skies, Date gmt) {
 }
 
 // The step of the weather's present stretch at which it began: none holds in the length of a bulletin before
-// it. A stretch is looked back over for a day at most. Nothing when there is no such weather.
+// it. Nothing when there is no such weather.
 std::optional<std::int64_t> BeginOf(const Kind& kind, Skies& skies, std::int64_t latest,
                                     std::int64_t length) {
   std::optional<std::int64_t> begin;
@@ -102,7 +103,7 @@ std::optional<std::int64_t> BeginOf(const Kind& kind, Skies& skies, std::int64_t
 // time, and the next begins where the weather then holds.
 std::optional<Date> IssueOf(const Kind& kind, Skies& skies, Date now) {
   const std::int64_t length = kind.minutes * 60;
-  const std::int64_t latest = now.seconds / kStep * kStep;
+  const std::int64_t latest = FloorTo(now, kStep).seconds;
   std::optional<std::int64_t> issued = BeginOf(kind, skies, latest, length);
   while (issued && *issued + length <= latest) {
     std::int64_t next = *issued + length;

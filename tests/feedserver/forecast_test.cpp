@@ -32,7 +32,8 @@ TEST(Meta, ObservationsMoveEveryTwentyMinutesAtTheirOwnMinute) {
   for (const char* postal_code : {"66044", "33131", "80202", "98101", "04101"}) {
     std::set<Date> stamps;
     for (int minute = 0; minute < 60; ++minute) {
-      const Date now = DateAdd(DateUnit::Minutes, minute, kNow);
+      const Date now = DateAdd(DateUnit::Minutes, minute, kNow), old = MakeDate(1850, 6, 1, 12, minute, 0);
+      EXPECT_LE(StampOf(First(Ask(std::string("t=xml&d=meta&pc=") + postal_code, old), "Obs_TS_UTC")), old);
       const Date stamp =
           StampOf(First(Ask(std::string("t=xml&d=meta&pc=") + postal_code, now), "Obs_TS_UTC"));
       EXPECT_LE(stamp, now);
@@ -53,7 +54,10 @@ TEST(Meta, ModelIsTheNewestRunThreeHoursOld) {
                {"2003-03-07 21:00:00", "Mar 07 2003 06:00PM"},
                {"2003-03-08 02:59:59", "Mar 07 2003 06:00PM"},
                {"2003-03-08 03:00:00", "Mar 08 2003 12:00AM"},
-               {"2003-03-08 09:00:00", "Mar 08 2003 06:00AM"}};
+               {"2003-03-08 09:00:00", "Mar 08 2003 06:00AM"},
+               // The calendar counts its days from the 30th.
+               {"1899-12-30 02:59:59", "Dec 29 1899 06:00PM"},
+               {"1850-06-01 12:00:00", "Jun 01 1850 06:00AM"}};
   for (const auto& c : cases) {
     const Elements meta = Ask("t=xml&d=meta&pc=66044", ReadDate(c.now));
     EXPECT_EQ(First(meta, "Model_TS_UTC"), c.run) << c.now;
@@ -181,6 +185,8 @@ TEST(Hourly, StopOfATripIsASingleHourOfTheClockThere) {
   for (const char* tag : {"Desc", "Tf", "Df", "Wd", "Ws", "Rn", "Sn"})
     EXPECT_EQ(First(stop, tag), Values(hourly, tag)[row]);
   EXPECT_TRUE(Ask("st=noon&et=noon&t=xml&pc=66044").empty());
+  EXPECT_TRUE(Ask("st=12/31/9999+11:00:00+PM&et=12/31/9999+11:00:00+PM&t=xml&pc=66044").empty())
+      << "in GMT it is no date";
 }
 
 TEST(Extended, HasTwentyFivePeriodsFromTheEndOfTheHourlyForecastOn) {

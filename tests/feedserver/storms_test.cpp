@@ -81,6 +81,33 @@ TEST(Storms, ABulletinKeepsItsTimesAndItsTextUntilItExpires) {
   }
 }
 
+// Weather that comes back day after day, under seed 1.
+TEST(Storms, BulletinsOfALongStretchOfWeatherKeepTheirTimesToo) {
+  const struct {
+    const char* postal_code;
+    Date begin;
+  } cases[] = {{"36602", MakeDate(2003, 7, 1)}, {"96910", MakeDate(2003, 9, 4)}};
+  for (const auto& c : cases) {
+    const Place place = *FindPlace(c.postal_code);
+    std::optional<Bulletin> last;
+    int bulletins = 0;
+    for (int step = 0; step < 3 * 48; ++step) {
+      const Date now = DateAdd(DateUnit::Minutes, 30 * step, c.begin);
+      const auto told = StormBulletins(place, now, 1);
+      const Bulletin* const found = Find(told, "WSV");
+      if (last && now < last->expires) {
+        ASSERT_TRUE(found) << DateText(now);
+        EXPECT_EQ(found->issued, last->issued) << DateText(now);
+        EXPECT_EQ(found->text, last->text);
+      } else {
+        bulletins += found ? 1 : 0;
+      }
+      last = found ? std::optional(*found) : std::nullopt;
+    }
+    EXPECT_GT(bulletins, 5) << "of four hours, in three days";
+  }
+}
+
 bool IsWetOver(const Place& place, Date gmt) {
   return std::ranges::any_of(TownsOverCounty(place),
                              [&](const Place& town) { return WaterAt(town.point, gmt, kSeed) > 0; });
