@@ -11,7 +11,10 @@ void AppendEscaped(std::string& text, std::string_view value) {
       case '>': text += "&gt;"; break;
       case '\r': text += "&#13;"; break;
       case '\n': text += "&#10;"; break;
-      default: text += c;
+      case '\t': text += c; break;
+      default:
+        // XML has no other control characters, not even escaped.
+        if (static_cast<unsigned char>(c) >= ' ') text += c;
     }
   }
 }

@@ -117,5 +117,11 @@ TEST(Bulletins, LineThatIsNoneRaisesAndIsNamed) {
   }
 }
 
+TEST(Bulletins, BytesThatNoXmlMayHoldAreLeftOut) {
+  const Elements told = Ask("pc=%00%0166%1F044&t=xml", "* | TOR | -5 | +45 | a\001b\tc\n");
+  EXPECT_EQ(Values(told, "pc"), std::vector<std::string>{"66044"});
+  EXPECT_EQ(First(told, "Text"), "SIMULATED. ab\tc     ");
+}
+
 }  // namespace
 }  // namespace skyloft::feed
