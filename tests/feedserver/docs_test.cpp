@@ -5,6 +5,7 @@
 #include <iterator>
 #include <sstream>
 
+#include "feedserver/phrases.h"
 #include "running_server.h"
 
 namespace skyloft::feed {
@@ -88,6 +89,27 @@ TEST(Documentation, EachExampleIsWhatTheServerAnswers) {
                                                                                    << reply;
   }
   std::remove(bulletins.c_str());
+}
+
+TEST(Documentation, TellsTheWordsAndThePictureOfEveryCode) {
+  const std::string text = Documentation();
+  const auto cells = [](int code) {
+    const Phrase& phrase = PhraseOf(code);
+    return "| " + std::to_string(code) + " | " + std::string(phrase.text) + " | `" +
+           std::string(phrase.icon) + "` |";
+  };
+  for (int code = 1; code <= 20; ++code)
+    EXPECT_NE(text.find(cells(code) + cells(code + 20).substr(1) + "\n"), text.npos) << code;
+}
+
+TEST(Documentation, TellsTheNamesThatAClientGoesBy) {
+  const std::string text = Documentation();
+  for (const char* name :
+       {"Hourly Planner", "Weekly Planner", "Historical Conditions", "Reflectivity", "1-Hour Precipitation",
+        "Total Precipitation", "Forecast Radar", "RouteScope by Road", "NEXRAD Radar", "Technical Support",
+        "Monthly Newsletter", "Share Skyloft"}) {
+    EXPECT_NE(text.find("\"" + std::string(name) + "\""), text.npos) << name;
+  }
 }
 
 TEST(Documentation, HasAnExampleOfEachQueryAndDocument) {
