@@ -203,6 +203,20 @@ TEST(Climate, HasNoStepAnywhere) {
   }
 }
 
+// Wherever one node of the net gives way to the next.
+TEST(Climate, GoesOnSmoothlyBetweenTheNodesOfItsNet) {
+  constexpr double step = 0.001;  // degrees
+  for (double north = 25; north < 49; north += 0.5) {
+    for (double west = -124; west < -70; west += 0.5) {
+      const double middle = west + 0.3, between = north + 0.3;
+      ASSERT_NEAR(ClimateAt({between, west - step}).mean, ClimateAt({between, west + step}).mean, 0.2)
+          << between << ' ' << west;
+      ASSERT_NEAR(ClimateAt({north - step, middle}).mean, ClimateAt({north + step, middle}).mean, 0.2)
+          << north << ' ' << middle;
+    }
+  }
+}
+
 TEST(Climate, IsPossibleEverywhere) {
   for (double latitude = -90; latitude <= 90; latitude += 0.7) {
     for (double longitude = -180; longitude <= 180; longitude += 0.7) {

@@ -156,6 +156,16 @@ TEST(Server, PortInUseIsAnError) {
   EXPECT_EQ(second.ExitStatus(milliseconds(5000)), 2);
 }
 
+TEST(Server, PortOfOneThatHasEndedIsFreeAtOnce) {
+  int port = 0;
+  {
+    const RunningServer first({"--port", "0"});
+    port = first.Port();
+    EXPECT_NE(Get(port, "/bulletins.asp"), "");
+  }
+  EXPECT_EQ(RunningServer({"--port", std::to_string(port)}).Port(), port);
+}
+
 TEST(Server, OptionNotUnderstoodIsAnError) {
   RunningServer server({"--what"});
   EXPECT_EQ(server.ExitStatus(milliseconds(5000)), 2);

@@ -67,6 +67,34 @@ TEST(Storms, EachKindOccursAndBeginsWithTheWordThatItIsSimulated) {
   }
 }
 
+TEST(Storms, MoveWhereTheWindBlows) {
+  const std::map<std::string, double> courses = {{"NORTH", 0},       {"NORTHEAST", 45}, {"EAST", 90},
+                                                 {"SOUTHEAST", 135}, {"SOUTH", 180},    {"SOUTHWEST", 225},
+                                                 {"WEST", 270},      {"NORTHWEST", 315}};
+  for (const char* type : kTypes) {
+    const Storm storm = FirstStorm(type);
+    const std::string start = " WAS MOVING ";
+    const std::size_t at = storm.bulletin.text.find(start) + start.size();
+    const std::string word = storm.bulletin.text.substr(at, storm.bulletin.text.find(' ', at) - at);
+    ASSERT_TRUE(courses.contains(word)) << word;
+    const double from = WeatherAt(storm.place.point, storm.bulletin.issued, kSeed).wind_from;
+    EXPECT_LE(std::abs(std::remainder(from + 180 - courses.at(word), 360)), 22.5) << type << ' ' << from;
+  }
+}
+
+TEST(Storms, TornadoesComeWithAStrongWindAndFloodsWithMuchRain) {
+  const Storm tornado = FirstStorm("TOR"), flood = FirstStorm("FFW"), ahead = FirstStorm("FFA");
+  const auto at = [](const Storm& storm, int hour) {
+    return WeatherAt(storm.place.point, DateAdd(DateUnit::Hours, hour, storm.bulletin.issued), kSeed);
+  };
+  EXPECT_GT(at(tornado, 0).wind_speed, 15);
+  EXPECT_GT(at(tornado, 0).thunder, 0.8);
+  EXPECT_GT(at(flood, 0).rain, 0.3);
+  double inches = 0;
+  for (int hour = 0; hour < 6; ++hour) inches += at(ahead, hour).rain;
+  EXPECT_GT(inches, 0.75);
+}
+
 TEST(Storms, ABulletinKeepsItsTimesAndItsTextUntilItExpires) {
   for (const char* type : kTypes) {
     const Storm storm = FirstStorm(type);
