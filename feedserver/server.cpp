@@ -62,6 +62,13 @@ class Exchange : public httplib::Stream {
 // The library hands a request to its handler without the stream it came from; a thread has one at a time.
 thread_local Exchange* current_exchange = nullptr;
 
+// A client of a proxy writes the whole address, "http://host/path".
+std::string WithoutServer(std::string_view path) {
+  constexpr std::string_view scheme = "http://";
+  if (path.starts_with(scheme)) path.remove_prefix(std::min(path.find('/', scheme.size()), path.size()));
+  return std::string(path);
+}
+
 // "Fri, 07 Mar 2003 20:05:00 GMT". Source: RFC 9110, section 5.6.7.
 std::string HttpDate(Date gmt) { return Format(gmt, "ddd, dd mmm yyyy hh:nn:ss") + " GMT"; }
 
@@ -93,8 +100,8 @@ class Server::Http : private httplib::Server {
 
   void Handle(const httplib::Request& request, httplib::Response& response) {
     const std::size_t question = std::min(request.target.find('?'), request.target.size());
-    Request asked{request.path, request.target.substr(std::min(question + 1, request.target.size())),
-                  service_.clock()};
+    Request asked{WithoutServer(request.path),
+                  request.target.substr(std::min(question + 1, request.target.size())), service_.clock()};
     const FaultKind fault = service_.faults.Befall(asked.path, asked.query);
     Reply reply = Spoil(fault, AnswerOrFail(request, asked));
     current_exchange->Befall(fault);

@@ -25,6 +25,8 @@ TEST(Http, StatusOfEveryKindOfRequest) {
   } cases[] = {
       {"GET " + target + " HTTP/1.0" + kEnd, "200"},
       {"GET " + target + " HTTP/1.1\r\nHost: a" + kEnd, "200"},
+      {"GET http://a.example:80" + target + " HTTP/1.1\r\nHost: a.example" + kEnd, "200"},
+      {"GET http:// HTTP/1.0" + std::string(kEnd), "404"},
       {"GET " + target + " HTTP/1.1" + kEnd, "400"},
       {"HEAD " + target + " HTTP/1.1\r\nHost: a" + kEnd, "200"},
       {"GET /nothing HTTP/1.0" + std::string(kEnd), "404"},
