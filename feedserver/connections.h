@@ -12,9 +12,9 @@
 namespace skyloft::feed {
 
 // What a client may cost. A connection carries one request and its reply.
-inline constexpr std::size_t kMostConnections =
-    400;  // at once; then one that has its reply, that has been longest
-          // without a request or that takes longest to take a reply goes
+// At once; fewer where the system allows fewer open files. Then one goes that has its reply, that has been
+// longest without a request or that takes longest to take a reply.
+inline constexpr std::size_t kMostConnections = 400;
 inline constexpr std::size_t kLongestHead = 16384;         // bytes of a request with its header
 inline constexpr std::size_t kMostHeld = 128 << 20;        // bytes of replies that wait to be taken
 inline constexpr std::chrono::seconds kHeadPatience{5};    // until the request has come whole
