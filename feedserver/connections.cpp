@@ -6,7 +6,10 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <map>
+#include <mutex>
+#include <utility>
 #include <vector>
 
 #include "feedserver/sockets.h"
